@@ -1,0 +1,69 @@
+// The fixed part of reading one element: its attributes, the check for missing ones, its content and its end.
+// The element's class supplies the pieces through virtual operations. What happens to unknown attributes and
+// elements is decided here, and here alone.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
+
+namespace lmx {
+
+/// Drives the element whose start tag's name has just been read. One helper lives for one element, on the
+/// stack; while it lives, the element's name stands in the reader's name stack.
+class ISOXML_API c_unmarshal_helper {
+ public:
+  explicit c_unmarshal_helper(c_xml_reader& reader);
+  virtual ~c_unmarshal_helper();
+  c_unmarshal_helper(c_unmarshal_helper const&) = delete;
+  c_unmarshal_helper& operator=(c_unmarshal_helper const&) = delete;
+
+  /// Takes the current attribute. False when it is none of this class's.
+  virtual bool unmarshal_attributes(elmx_error* error);
+  /// Checks that the required attributes came.
+  virtual elmx_error unmarshal_attributes_check();
+  /// Reads text content. A class without any never gets here.
+  virtual bool unmarshal_simple_body(elmx_error* error);
+  /// Reads the children. A class without any never gets here.
+  virtual bool unmarshal_complex_body(elmx_error* error);
+  /// True when the body is to be left unread.
+  virtual bool is_body_skipped();
+  /// False to keep what the body left over from being skipped.
+  virtual bool is_skipping_allowed();
+
+  // Each reads one whole element. `file`, which is constant text, and `line` go into error records.
+
+  /// An element with attributes only. Anything but white space, comments and instructions in it is 10.
+  elmx_error unmarshal_empty_content(char const* file, int line);
+  /// An element with text content.
+  elmx_error unmarshal_simple_content(char const* file, int line);
+  /// An element with children. Empty where that is not allowed: 32.
+  elmx_error unmarshal_complex_content(char const* file, int line);
+
+  /// The element may be empty, whatever its children's own rules say.
+  bool m_empty_allowed = false;
+
+ private:
+  elmx_error p_read_content(char const* file, int line, elmx_error (c_unmarshal_helper::*read_case)());
+  elmx_error p_unmarshal_all_attributes();
+  elmx_error p_handle_unknown_attribute();
+  elmx_error p_unmarshal_empty_content_case();
+  elmx_error p_unmarshal_simple_content_case();
+  elmx_error p_unmarshal_complex_content_case();
+  elmx_error p_next_event();
+  elmx_error p_skip_element();
+  elmx_error p_verify_element_end();
+  elmx_error p_check_end_of_element();
+  bool p_is_element_event() const;
+  std::string p_element_name() const;
+  elmx_error p_report(elmx_error code, std::string const& item);
+
+  c_xml_reader& mr_reader;
+  const std::size_t m_name_offset;
+  char const* m_code_file = nullptr;
+  int m_code_line = 0;
+};
+
+}  // namespace lmx

@@ -1,0 +1,453 @@
+#include "GenLibrarySupportFiles/lmxparse/c_xml.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "GenLibrarySupportFiles/lmxparse/entity_name_readers.h"
+
+namespace lmx {
+
+namespace {
+
+constexpr std::size_t usual_attribute_bytes = 150;
+
+std::string shown(int c) { return c == -1 ? std::string() : std::string(1, static_cast<char>(c)); }
+
+// True for "xmlns" and for anything that begins "xmlns:".
+bool declares_namespace(char const* name) {
+  return std::strncmp(name, "xmlns", 5) == 0 && (name[5] == '\0' || name[5] == ':');
+}
+
+}  // namespace
+
+void c_attribute_data::clear() {
+  m_data.clear();
+  m_index = 0;
+}
+
+void c_attribute_data::take_name(std::string* name) {
+  name->assign(m_data.c_str() + m_index);
+  m_index = std::min(m_index + name->size() + 1, m_data.size() - 1);
+}
+
+void c_attribute_data::skip_value() {
+  if (m_data.empty()) return;
+  m_index = std::min(m_index + std::strlen(m_data.c_str() + m_index) + 1, m_data.size() - 1);
+}
+
+c_xml::c_xml(c_read& read, c_error& error, bool normalize_char_refs)
+    : m_getter(read, error, normalize_char_refs) {
+  m_attributes.m_data.reserve(usual_attribute_bytes);
+  m_ns_attributes.m_data.reserve(usual_attribute_bytes);
+}
+
+void c_xml::rewind() {
+  m_namespaces.clear();
+  m_declaration_read = false;
+  m_doctype_read = false;
+  m_past_prolog = false;
+  m_getter.rewind();
+}
+
+int c_xml::get_ns_id(c_xml_local const* local, std::string const& name) const {
+  const std::size_t colon = name.find(':');
+  return local->find_namespace_id(colon == std::string::npos ? std::string() : name.substr(0, colon));
+}
+
+// ---- The next item ----
+
+elxp_xml_event c_xml::p_not_well_formed() {
+  m_getter.error(EET_ERROR, ELMX_NOT_WELL_FORMED, "XML not Well-Formed");
+  return EXE_ERROR;
+}
+
+elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
+  for (;;) {
+    name->clear();
+    int c = m_getter.get_non_space();
+    if (c == -1) {
+      m_past_prolog = true;
+      return EXE_EOM;
+    }
+    if (c == '&') {
+      if (!p_select_input_entity(name)) return EXE_ERROR;
+      if (name->empty()) continue;
+      return p_get_text(name, -1);
+    }
+    if (c != '<') return p_get_text(name, c);
+    c = m_getter.get();
+    if (is_name_start(c)) return p_get_start_tag(local, name, c);
+    if (c == '/') return p_get_end_tag(name);
+    if (c == '?') {
+      if (!p_handle_lt_qmark()) return EXE_ERROR;
+    } else if (c == '!') {
+      elxp_xml_event event = EXE_UNKNOWN;
+      if (!p_handle_lt_pling(name, &event)) {
+        LMX_ASSERT(event != EXE_UNKNOWN);
+        m_past_prolog = true;
+        return event;
+      }
+    } else {
+      p_not_well_formed();
+      m_getter.move_to_start_tag_end(nullptr);
+      return EXE_ERROR;
+    }
+  }
+}
+
+elxp_xml_event c_xml::p_get_start_tag(c_xml_local* local, std::string* name, int first) {
+  name->push_back(static_cast<char>(first));
+  const int stopper = m_getter.get_name_chars(name);
+  if (stopper == -1) return p_not_well_formed();
+  m_getter.unget(stopper);
+  if (!p_capture_attributes(local)) return EXE_ERROR;
+  m_past_prolog = true;
+  return EXE_TOKEN;
+}
+
+elxp_xml_event c_xml::p_get_end_tag(std::string* name) {
+  int c = m_getter.get_name_chars(name);
+  if (name->empty()) return EXE_ERROR;
+  if (is_space(c)) c = m_getter.get_non_space();
+  if (c != '>') return p_not_well_formed();
+  m_past_prolog = true;
+  return EXE_ELEMENT_END;
+}
+
+elxp_xml_event c_xml::p_get_text(std::string* name, int first) {
+  if (first != -1) name->push_back(static_cast<char>(first));
+  if (!p_get_xml_text(name)) return EXE_ERROR;
+  m_past_prolog = true;
+  return EXE_TEXT;
+}
+
+// After "<?". False when reading can not go on. Where "xml" differs, the differing character is used up,
+// so an instruction as short as "<?x?>" runs on to the next "?>".
+bool c_xml::p_handle_lt_qmark() {
+  if (!m_getter.read_specified_string_from_input("xml") || !is_space(m_getter.get()))
+    return m_getter.skip_PI();
+  if (m_past_prolog || m_declaration_read) {
+    m_getter.error(EET_FATAL, ELMX_BAD_XML_DECL, "XML declaration not at start of document");
+    return false;
+  }
+  m_declaration_read = true;
+  return m_getter.read_xml_decl();
+}
+
+// After "<!". True to go on with the next item; else `*event` is what to return.
+bool c_xml::p_handle_lt_pling(std::string* name, elxp_xml_event* event) {
+  *event = EXE_ERROR;
+  const int c = m_getter.get();
+  if (c == '[') {
+    name->clear();
+    *event = p_read_cdata(name) ? EXE_TEXT : p_not_well_formed();
+    return false;
+  }
+  if (c == '-' && m_getter.get() == '-') return m_getter.skip_comment();
+  if (c == 'D' && m_getter.read_specified_string_from_input("OCTYPE")) return p_handle_doctype();
+  m_getter.move_to_start_tag_end(nullptr);
+  return false;
+}
+
+bool c_xml::p_handle_doctype() {
+  if (m_past_prolog || m_doctype_read) {
+    m_getter.error(EET_ERROR, ELMX_BAD_DTD,
+                   m_past_prolog ? "Document Type Declaration not at start of document"
+                                 : "Document Type Declaration already read");
+    return false;
+  }
+  // Name and external identifier are passed over; quotes do not count.
+  for (;;) {
+    const int c = m_getter.get();
+    if (c == -1) return false;
+    if (c == '[') {
+      m_getter.error(EET_FATAL, ELMX_BAD_DTD, "Internal DTD subset not supported");
+      return false;
+    }
+    if (c == '>') break;
+  }
+  m_doctype_read = true;
+  return true;
+}
+
+// After "<![". The section's text goes to `*out` as it is. The end of the input ends the section too.
+bool c_xml::p_read_cdata(std::string* out) {
+  if (!m_getter.read_specified_string_from_input("CDATA[")) {
+    p_not_well_formed();
+    return false;
+  }
+  std::size_t brackets = 0;
+  for (;;) {
+    const int c = m_getter.get();
+    if (c == ']') {
+      ++brackets;
+      continue;
+    }
+    if (c == '>' && brackets >= 2) {
+      out->append(brackets - 2, ']');
+      return true;
+    }
+    out->append(brackets, ']');
+    brackets = 0;
+    if (c == -1) return true;
+    out->push_back(static_cast<char>(c));
+  }
+}
+
+bool c_xml::p_select_entity(c_entity_name_reader& reader, std::string* out) {
+  return m_getter.select_general_entity(reader, out);
+}
+
+bool c_xml::p_select_input_entity(std::string* out) {
+  c_entity_name_reader_for_c_get reader(m_getter);
+  reader.m_push_as_input = true;
+  return p_select_entity(reader, out);
+}
+
+bool c_xml::p_get_xml_text(std::string* out) {
+  for (;;) {
+    m_getter.take_plain_text(out);
+    const int c = m_getter.get();
+    if (c == '<' || c == -1) {
+      m_getter.unget(c);
+      return true;
+    }
+    if (c == '&') {
+      if (!p_select_input_entity(out)) return false;
+    } else {
+      m_getter.add_char_wsp(out, c, false);
+    }
+  }
+}
+
+// ---- Attributes ----
+
+bool c_xml::p_capture_attributes(c_xml_local* local) {
+  m_attributes.clear();
+  m_ns_attributes.clear();
+  m_attributes_cut_off = false;
+  std::string& data = m_attributes.m_data;
+  for (;;) {
+    int c = m_getter.get_non_space();
+    if (!is_name_start(c)) {
+      m_getter.unget(c);
+      m_attributes.close();
+      return c != -1;
+    }
+    const std::size_t name_offset = data.size();
+    data.push_back(static_cast<char>(c));
+    c = m_getter.get_name_chars(&data);
+    m_getter.unget(c);
+    bool captured;
+    if (local != nullptr && declares_namespace(data.c_str() + name_offset)) {
+      m_attribute_name.assign(data, name_offset, std::string::npos);
+      data.resize(name_offset);
+      captured = p_capture_declaration(local, m_attribute_name);
+    } else {
+      data.push_back('\0');
+      captured = p_capture_attribute_value(&m_attributes, nullptr);
+    }
+    if (!captured) {
+      m_attributes.clear();
+      return false;
+    }
+  }
+}
+
+bool c_xml::p_capture_declaration(c_xml_local* local, std::string const& name) {
+  std::string& data = m_ns_attributes.m_data;
+  data.append(name).push_back('\0');
+  std::size_t value_offset = 0;
+  if (!p_capture_attribute_value(&m_ns_attributes, &value_offset)) return false;
+  p_declare_namespace(local, name.size() > 6 ? name.substr(6) : std::string(), data.c_str() + value_offset);
+  return true;
+}
+
+// An empty URI takes a prefix back: it then reads as undeclared, and the default namespace as none.
+void c_xml::p_declare_namespace(c_xml_local* local, std::string const& prefix, char const* raw_uri) {
+  std::string uri;
+  c_entity_name_reader_for_c_str reader(raw_uri);
+  for (int c = reader.get(); c != -1; c = reader.get()) {
+    if (c != '&') {
+      uri.push_back(static_cast<char>(c));
+    } else if (!p_select_entity(reader, &uri)) {
+      break;  // what could be built has to do
+    }
+  }
+  const int id = !uri.empty()     ? add_namespace(uri.c_str())
+                 : prefix.empty() ? static_cast<int>(nsid_none)
+                                  : static_cast<int>(nsid_not_found);
+  local->add_namespace(prefix.c_str(), id);
+}
+
+// A NUL byte counts as the end: the captured form could not hold it.
+bool c_xml::p_capture_attribute_value(c_attribute_data* data, std::size_t* value_offset) {
+  int c = m_getter.get_non_space();
+  if (c == -1) {
+    m_getter.error(EET_FATAL, ELMX_UNEXPECTED_EOM, "Unexpected end of file");
+    return false;
+  }
+  if (c != '=') {
+    m_getter.error(EET_FATAL, ELMX_NOT_WELL_FORMED,
+                   "Schema is not Well Formed (expected '=', got '" + shown(c) + "')");
+    return false;
+  }
+  const int quote = m_getter.get_non_space();
+  c = quote;
+  if (quote == '"' || quote == '\'') {
+    data->m_data.push_back(static_cast<char>(quote));
+    if (value_offset != nullptr) *value_offset = data->m_data.size();
+    for (;;) {
+      m_getter.take_plain_value(&data->m_data, quote);
+      c = m_getter.get();
+      if (c == quote || c == -1 || c == 0) break;
+      data->m_data.push_back(static_cast<char>(c));
+    }
+    data->m_data.push_back('\0');
+    if (c == quote) return true;
+  }
+  m_getter.error(EET_FATAL, ELMX_NOT_WELL_FORMED,
+                 "Schema is not Well Formed (expected '\"' or ''', got " + shown(c) + ")");
+  return false;
+}
+
+elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
+  name->clear();
+  if (m_attributes.has_next()) {
+    m_attributes.take_name(name);
+    return EXE_TOKEN;
+  }
+  int c = m_getter.get_non_space();
+  if (c == '>') return EXE_START_TAG_END;
+  if (c == (in_decl ? '?' : '/')) {
+    c = m_getter.get_non_space();
+    if (c == '>') return EXE_ELEMENT_END;
+  }
+  m_attributes_cut_off = c == -1;
+  m_getter.error(EET_ERROR, ELMX_NOT_WELL_FORMED, "XML not well-formed");
+  return EXE_ERROR;
+}
+
+bool c_xml::get_attribute_value(std::string* out, elmx_whitespace mode) {
+  out->clear();
+  m_getter.set_ws_mode(mode);
+  c_attribute_data& data = m_attributes;
+  if (!data.has_next()) return false;
+  const std::size_t end = data.m_index + std::strlen(data.m_data.c_str() + data.m_index);
+  bool expanded = true;
+  for (++data.m_index; expanded && data.m_index < end;) {
+    char const* const begin = data.m_data.data() + data.m_index;
+    void const* const reference = std::memchr(begin, '&', end - data.m_index);
+    const std::size_t length = reference == nullptr
+                                   ? end - data.m_index
+                                   : static_cast<std::size_t>(static_cast<char const*>(reference) - begin);
+    m_getter.add_run_wsp(out, begin, length);
+    data.m_index += length;
+    if (reference == nullptr) break;
+    ++data.m_index;
+    c_entity_name_reader_for_attribute_data reader(data);
+    expanded = p_select_entity(reader, out);
+  }
+  data.m_index = std::min(end + 1, data.m_data.size() - 1);
+  return expanded;
+}
+
+bool c_xml::skip_attribute_value() {
+  m_attributes.skip_value();
+  return true;
+}
+
+// ---- Content ----
+
+bool c_xml::get_element_value(std::string* out, elmx_whitespace mode, bool expand_entities) {
+  out->clear();
+  m_getter.set_ws_mode(mode);
+  for (;;) {
+    m_getter.take_plain_text(out);
+    int c = m_getter.get();
+    if (c == -1) {
+      m_getter.error(EET_ERROR, ELMX_UNEXPECTED_EOM, "Premature end of file encountered");
+      return false;
+    }
+    if (c == '&' && expand_entities) {
+      if (!p_select_input_entity(out)) return false;
+      continue;
+    }
+    if (c != '<') {
+      m_getter.add_char_wsp(out, c, false);
+      continue;
+    }
+    c = m_getter.get();
+    if (c == '?') {
+      m_getter.skip_PI();  // one that is cut off shows as the end of the input in the next round
+      continue;
+    }
+    if (c != '!') {  // a tag: the value ends here
+      m_getter.unget(c);
+      m_getter.unget('<');
+      return true;
+    }
+    c = m_getter.get();
+    if (c == '-' && m_getter.get() == '-') {
+      m_getter.skip_comment();
+    } else if (c != '[' || !p_read_cdata(out)) {
+      m_getter.error(EET_ERROR, ELMX_NOT_WELL_FORMED, "XML not well-formed");
+      return false;
+    }
+  }
+}
+
+bool c_xml::is_element_end_tag(std::string const& name) {
+  if (m_getter.get_non_space() != '<' || m_getter.get() != '/') return false;
+  for (const char expected : name) {
+    if (m_getter.get() != static_cast<unsigned char>(expected)) return false;
+  }
+  const int c = m_getter.get();
+  return c == '>' || (is_space(c) && m_getter.get_non_space() == '>');
+}
+
+bool c_xml::skip_rest_of_empty_element(std::string const& name) {
+  bool is_empty = false;
+  return m_getter.move_to_start_tag_end(&is_empty) && (is_empty || is_element_end_tag(name));
+}
+
+bool c_xml::skip_rest_of_element(std::string const& name) {
+  bool is_empty = false;
+  if (!m_getter.move_to_start_tag_end(&is_empty)) return false;
+  return is_empty || skip_element_body(name);
+}
+
+// The open elements' names stand one after the other in one string, so depth costs a few bytes a level.
+// Skipped content declares no namespaces: nothing in it is ever looked up.
+bool c_xml::skip_element_body(std::string const& name_in) {
+  std::string open_names = name_in;
+  std::vector<std::size_t> offsets{0};
+  std::string name;
+  while (!offsets.empty()) {
+    switch (get_element_name(nullptr, &name)) {
+      case EXE_TEXT: break;
+      case EXE_TOKEN: {
+        bool is_empty = false;
+        if (!m_getter.move_to_start_tag_end(&is_empty)) return false;
+        if (is_empty) break;
+        offsets.push_back(open_names.size());
+        open_names += name;
+        break;
+      }
+      case EXE_ELEMENT_END:
+        if (open_names.compare(offsets.back(), std::string::npos, name) != 0) {
+          m_getter.error(EET_ERROR, ELMX_NOT_WELL_FORMED,
+                         "Element start tag (" + open_names.substr(offsets.back()) + ") and end tag (" +
+                             name + ") do not match");
+          return false;
+        }
+        open_names.resize(offsets.back());
+        offsets.pop_back();
+        break;
+      default: return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace lmx

@@ -1,0 +1,132 @@
+// The tag level. `c_xml` answers one question at a time: what is the next item of the document, what is the
+// next attribute of this start tag, what is the text of this element. It knows no schema, and it checks just
+// enough to find tags and attributes: names, nesting and content are left to what reads through it.
+//
+// The attributes of a start tag are captured whole before the first is looked at. So every namespace
+// declaration of a tag is known in time, and a value is expanded only when it is asked for.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxparse/getters.h"
+#include "GenLibrarySupportFiles/lmxparse/namespaces.h"
+
+namespace lmx {
+
+/// What the reader met. Tables of names use numbers from `EXE_FIRST_USER` + 1 up.
+enum elxp_xml_event : int {
+  EXE_EOM = 0,            ///< End of the input.
+  EXE_UNKNOWN = 1,        ///< A name was looked up and no table entry matched.
+  EXE_FATAL = 2,          ///< Failure; handled as EXE_ERROR.
+  EXE_ERROR = 3,          ///< Failure, already reported to `c_error`.
+  EXE_START_TAG_END = 4,  ///< The ">" of a start tag.
+  EXE_TEXT = 5,           ///< Character data was read.
+  EXE_ELEMENT_END = 6,    ///< An end tag, or the "/>" of an empty element.
+  EXE_TOKEN = 7,          ///< A name was read and not yet looked up.
+  EXE_XSI_TYPE = 8,       ///< Attribute "type" of the schema instance namespace.
+  EXE_XSI_NIL = 9,        ///< Attribute "nil" of that namespace.
+  EXE_XSI_SCHEMA_LOCATION = 10,
+  EXE_XSI_NO_NAMESPACE_SCHEMA_LOCATION = 11,
+  EXE_SKIPPED_TO_END = 12,  ///< An element's end, reached after unknown children were skipped.
+  EXE_FIRST_USER = 13,
+};
+
+/// Captured attributes. Each is its name, a NUL, the opening quote, the raw value with its references
+/// unexpanded, and a NUL; one more NUL closes the list.
+struct ISOXML_API c_attribute_data {
+  std::string m_data;
+  std::size_t m_index = 0;  ///< Where the next name, or the opening quote of the next value, stands.
+
+  void clear();
+  void close() { m_data.push_back('\0'); }
+  /// True when the index stands at a name.
+  bool has_next() const { return m_index < m_data.size() && m_data[m_index] != '\0'; }
+  /// Copies the name at the index and steps over it.
+  void take_name(std::string* name);
+  /// Steps over the value at the index; never past the last byte.
+  void skip_value();
+};
+
+class ISOXML_API c_xml {
+ public:
+  /// Both are borrowed and must outlive the object. `normalize_char_refs`: see `c_get_with_entities`.
+  c_xml(c_read& read, c_error& error, bool normalize_char_refs);
+
+  /// The next item. EXE_TOKEN: a start tag, its name in `*name`, its attributes captured, its
+  /// namespaces entered in `local`; when `local` is null they are ordinary attributes. EXE_ELEMENT_END: an
+  /// end tag, its name in
+  /// `*name`. EXE_TEXT: character data between tags in `*name`, without the white space before it.
+  /// EXE_EOM, or EXE_ERROR with the code in `c_error` (a few failures report nothing).
+  elxp_xml_event get_element_name(c_xml_local* local, std::string* name);
+  /// The next captured attribute: EXE_TOKEN with its name. After the last one the end of the tag is read:
+  /// EXE_START_TAG_END or EXE_ELEMENT_END ("?>" when `in_decl`), or EXE_ERROR with 23.
+  elxp_xml_event get_attribute_name(std::string* name, bool in_decl);
+  /// The value of the attribute just named, references expanded. False when one can not be; the next
+  /// attribute is reached either way.
+  bool get_attribute_value(std::string* out, elmx_whitespace mode);
+  /// Steps over the value of the attribute just named.
+  bool skip_attribute_value();
+  /// The text of the element whose start tag has ended, up to the first tag; comments and instructions
+  /// vanish. False with 34 at the end of the input, 23 for a bad "<!", nothing for a bad reference.
+  bool get_element_value(std::string* out, elmx_whitespace mode, bool expand_entities);
+  /// Reads white space and the end tag of `name`; any name when it is empty. Reports nothing.
+  bool is_element_end_tag(std::string const& name);
+  /// Reads to the end of the element `name`, which must have no content but white space.
+  bool skip_rest_of_empty_element(std::string const& name);
+  /// Reads to the end of the element `name` from inside its start tag. An end tag that does not match is
+  /// error 23. Nesting costs heap, one name a level, and no stack.
+  bool skip_rest_of_element(std::string const& name);
+  /// The same from behind the start tag.
+  bool skip_element_body(std::string const& name);
+  bool move_to_start_tag_end(bool* is_empty) { return m_getter.move_to_start_tag_end(is_empty); }
+  /// Starts the document again.
+  void rewind();
+
+  /// The line the reader has reached; see `c_get_as_utf8::line`.
+  int line() const { return m_getter.line(); }
+  /// True once `get_attribute_name` has met the end of the input inside a start tag.
+  bool attributes_cut_off() const { return m_attributes_cut_off; }
+  c_get_for_xml& getter() { return m_getter; }
+
+  int find_enumerated_namespace(std::string const& uri) const { return m_namespaces.find_namespace(uri); }
+  int add_namespace(char const* uri) { return m_namespaces.add_namespace(uri); }
+  void add_namespace(char const* uri, int id) { m_namespaces.add_namespace(uri, id); }
+  /// The id of the name's prefix in `local`; an unprefixed name takes the default namespace.
+  int get_ns_id(c_xml_local const* local, std::string const& name) const;
+  /// True when that id is the schema instance namespace.
+  bool is_xsi_attribute(c_xml_local const* local, std::string const& name) const {
+    return get_ns_id(local, name) == nsid_xsi;
+  }
+
+ private:
+  elxp_xml_event p_not_well_formed();
+  elxp_xml_event p_get_start_tag(c_xml_local* local, std::string* name, int first);
+  elxp_xml_event p_get_end_tag(std::string* name);
+  elxp_xml_event p_get_text(std::string* name, int first);
+  bool p_handle_lt_qmark();
+  bool p_handle_lt_pling(std::string* name, elxp_xml_event* event);
+  bool p_handle_doctype();
+  bool p_read_cdata(std::string* out);
+  bool p_get_xml_text(std::string* out);
+  bool p_select_entity(c_entity_name_reader& reader, std::string* out);
+  bool p_select_input_entity(std::string* out);
+  bool p_capture_attributes(c_xml_local* local);
+  bool p_capture_declaration(c_xml_local* local, std::string const& name);
+  bool p_capture_attribute_value(c_attribute_data* data, std::size_t* value_offset);
+  void p_declare_namespace(c_xml_local* local, std::string const& prefix, char const* raw_uri);
+
+  c_get_for_xml m_getter;
+  c_enumerated_namespaces m_namespaces;
+  bool m_declaration_read = false;
+  bool m_doctype_read = false;
+  bool m_past_prolog = false;
+  bool m_attributes_cut_off = false;
+  c_attribute_data m_attributes;
+  c_attribute_data m_ns_attributes;
+  std::string m_attribute_name;  // storage kept between attributes
+};
+
+}  // namespace lmx

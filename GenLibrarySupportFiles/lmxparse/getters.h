@@ -1,0 +1,212 @@
+// From bytes to characters. Three classes, each over the one before: `c_get_as_utf8` turns the source's
+// bytes into UTF-8, folds line ends and counts lines; `c_get_with_entities` adds references and white space
+// modes; `c_get_for_xml` adds the small scans that need no tag state.
+//
+// A character travels as an int from 0 to 255, one byte of UTF-8 at a time; -1 is the end of the input.
+// The path for one character is general; plain ASCII that already lies in the source's buffer can be taken
+// in bulk through `plain_window`, which is empty whenever anything out of the ordinary is going on.
+#pragma once
+
+#include <string>
+
+#include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxinternals/characters.h"
+#include "GenLibrarySupportFiles/lmxparse/c_error.h"
+#include "GenLibrarySupportFiles/lmxparse/c_read.h"
+
+namespace lmx {
+
+class c_entity_name_reader;
+
+/// What happens to white space while a value is read (XSD facet whiteSpace).
+enum elmx_whitespace : int {
+  EXWS_PRESERVE = 0,  ///< Characters are kept as they are.
+  EXWS_REPLACE = 1,   ///< Each white space character becomes one blank.
+  EXWS_COLLAPSE = 2,  ///< Runs become one blank; leading and trailing white space goes.
+};
+
+/// How the source's bytes are read. Found from the first bytes; the XML declaration may narrow it.
+enum elxp_char_encoding : int {
+  EXCE_UNKNOWN = 0,      ///< Nothing read yet.
+  EXCE_SINGLE_BYTE = 1,  ///< ISO-8859-1 or US-ASCII: each byte is a code point.
+  EXCE_UTF8 = 2,
+  EXCE_UTF16_BE = 3,
+  EXCE_UTF16_LE = 4,
+  EXCE_UCS2_BE = 5,  ///< Two bytes a character, no surrogates.
+  EXCE_UCS2_LE = 6,
+  EXCE_EXTERNAL = 7,  ///< A host's transcoder delivers the bytes.
+};
+
+/// Up to three characters pushed back, last in first out. A fourth stops the process.
+class ISOXML_API c_unget_buffer {
+ public:
+  void unget(int c) {
+    LMX_ASSERT(m_free_index < size);
+    m_values[m_free_index++] = c;
+  }
+  int get() {
+    LMX_ASSERT(m_free_index > 0);
+    return m_values[--m_free_index];
+  }
+  bool empty() const { return m_free_index == 0; }
+  void clear() { m_free_index = 0; }
+
+ private:
+  static constexpr unsigned size = 3;
+  int m_values[size] = {};
+  unsigned m_free_index = 0;
+};
+
+/// A run of bytes that may be taken as they are.
+struct byte_window {
+  unsigned char const* begin;
+  unsigned char const* end;
+};
+
+class ISOXML_API c_get_as_utf8 {
+ public:
+  /// Both are borrowed and must outlive the getter, which binds itself to `error` as the source of lines.
+  c_get_as_utf8(c_read& read, c_error& error);
+  c_get_as_utf8(c_get_as_utf8 const&) = delete;
+  c_get_as_utf8& operator=(c_get_as_utf8 const&) = delete;
+
+  /// The next character after line-end folding, or -1. After a fatal error always -1.
+  int get();
+  /// Pushes one character back, three at most. -1, and anything after a fatal error, is ignored.
+  /// A line feed that is pushed back counts as a line again when it is read again.
+  void unget(int c) {
+    if (c != -1 && !mr_error.has_fatal()) m_unget.unget(c);
+  }
+  /// Starts the source again: line 1, encoding unknown.
+  void rewind();
+
+  /// Reports through `c_error` with this getter's source name and line.
+  void error(elmx_error_type type, elmx_error code, char const* message);
+  void error(elmx_error_type type, elmx_error code, std::string const& message);
+
+  char const* source_name() const { return mr_read.source_name(); }
+  /// 1 plus the line ends delivered so far. May run ahead of the true line (see `unget`).
+  int line() const { return m_line; }
+  elxp_char_encoding encoding() const { return m_encoding; }
+  /// Applies the name of an XML declaration to the encoding found from the bytes. A name that does not
+  /// fit them is fatal 15, an unknown one fatal 6; the result is then false.
+  bool set_encoding(char const* name);
+
+  /// What lies ready in the source's buffer and may be scanned without `get`; empty when there is anything
+  /// between the buffer and the reader. Bytes above 126, CR, LF and NUL must be left to `get`.
+  byte_window plain_window() const {
+    const bool plain = (m_encoding == EXCE_UTF8 || m_encoding == EXCE_SINGLE_BYTE) && m_unget.empty() &&
+                       mp_pending == nullptr && !m_pending_end && !mr_error.has_fatal();
+    return plain ? byte_window{mr_read.mp_next, mr_read.mp_end} : byte_window{nullptr, nullptr};
+  }
+  /// Takes the bytes of the last `plain_window` before `up_to`.
+  void consume_plain(unsigned char const* up_to) {
+    if (up_to == mr_read.mp_next) return;
+    mr_read.mp_next = up_to;
+    m_last_char = ' ';  // any plain byte: what matters is that it was no CR
+  }
+
+ protected:
+  bool has_fatal() const { return mr_error.has_fatal(); }
+  c_error& error_sink() { return mr_error; }
+
+ private:
+  int p_next_byte() { return mr_read.mp_next != mr_read.mp_end ? *mr_read.mp_next++ : mr_read.get(); }
+  int p_get();
+  int p_read_local_transcoded();
+  int p_resolve_initial_character_encoding(int first);
+  int p_read_utf16(int first);
+  int p_convert_utf16_bytes(int first, int second) const;
+  int p_map_unicode_to_utf8(int code_point);
+  int p_read_utf8_compound_char_sequence(int first);
+  void p_read_single_utf8_compound_char_sequence(int first, char* out);
+  int p_deliver_buffer();
+
+  c_read& mr_read;
+  c_error& mr_error;
+  c_getter_error_binder m_binder;
+  elxp_char_encoding m_encoding = EXCE_UNKNOWN;
+  int m_last_char = 0;  // the last raw character, to fold CR LF
+  c_unget_buffer m_unget;
+  char m_utf8_buffer[8] = {};        // the multi-byte character under delivery
+  char const* mp_pending = nullptr;  // its bytes still to deliver, or null
+  bool m_pending_end = false;        // one -1 is to be delivered
+  int m_line = 1;
+};
+
+/// Encodes `code_point` as UTF-8 with a closing NUL; one to four bytes, no range check. Returns `out`.
+ISOXML_API char* unicode_char_to_utf8(int code_point, char* out);
+/// Decodes one character. False, with -1 stored for a bad first byte, when the bytes are no sequence.
+/// Overlong forms are not refused.
+ISOXML_API bool utf8_to_unicode_char(char const* bytes, int* out);
+/// True when the first two bytes can begin a UTF-8 character. Further bytes are not looked at.
+ISOXML_API bool is_valid_utf8_char_sequence(char const* bytes);
+
+class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
+ public:
+  /// `normalize_char_refs`: white space written as a character reference counts as white space.
+  c_get_with_entities(c_read& read, c_error& error, bool normalize_char_refs);
+
+  void rewind();
+
+  /// Sets the mode for the value that comes next and forgets a blank still pending.
+  void set_ws_mode(elmx_whitespace mode) {
+    m_ws_mode = mode;
+    m_pending_space = false;
+  }
+  elmx_whitespace ws_mode() const { return m_ws_mode; }
+  /// Appends `c` to `*out` under the mode in force. A mode that is none stops the process.
+  void add_char_wsp(std::string* out, int c, bool is_char_ref);
+  /// `add_char_wsp` for `length` literal bytes.
+  void add_run_wsp(std::string* out, char const* bytes, std::size_t length);
+
+  /// Expands the reference whose "&" has just been read and appends what it stands for. The ";" may be
+  /// missing. False, without a report, for an unknown name, which is appended as it was written.
+  bool select_general_entity(c_entity_name_reader& reader, std::string* out);
+  /// The same for a numeric reference whose "&#" has been read. Values up to 0x100000, NUL and
+  /// surrogates included.
+  bool insert_character_entity(c_entity_name_reader& reader, std::string* out);
+
+ private:
+  const bool m_normalize_char_refs;
+  std::string m_entity_name;
+  elmx_whitespace m_ws_mode = EXWS_PRESERVE;
+  bool m_pending_space = false;
+};
+
+class ISOXML_API c_get_for_xml : public c_get_with_entities {
+ public:
+  c_get_for_xml(c_read& read, c_error& error, bool normalize_char_refs);
+
+  /// Reads as many characters as `text` has. False at the first difference; the differing character is
+  /// used up.
+  bool read_specified_string_from_input(char const* text);
+  /// Reads a quoted text, without expanding references. False when there is none, or no closing quote.
+  bool get_simple_quoted_value(std::string* out);
+  /// Entered after "<!--". A comment that ends in more than two hyphens is warned of with code 8.
+  /// False at the end of the input.
+  bool skip_comment();
+  /// Entered after "<?name". False at the end of the input.
+  bool skip_PI();
+  /// Reads to the end of a start tag, minding quotes. `is_empty` may be null; true is stored for "/>".
+  /// Something other than white space after the "/" is error 12, reported once, and gives false.
+  bool move_to_start_tag_end(bool* is_empty);
+  /// Entered after "<?xml" and one white space character. False when the declaration is damaged: 13 for a
+  /// missing version, 14 for one that is not 1.0 or 1.1, nothing for the rest.
+  bool read_xml_decl();
+  void rewind();
+
+  /// The first character that is no white space, which is used up; or -1.
+  int get_non_space();
+  /// Appends name characters to `*out`; returns the character that stopped, which is used up.
+  int get_name_chars(std::string* out);
+  /// Appends what lies ready up to the first of `quote`, NUL, line ends and bytes beyond ASCII.
+  void take_plain_value(std::string* out, int quote);
+  /// Appends what lies ready up to the first "<", "&", NUL, line end or byte beyond ASCII.
+  void take_plain_text(std::string* out);
+
+ private:
+  bool p_read_pseudo_attribute(char const* rest_of_name, std::string* value, bool* has_value);
+};
+
+}  // namespace lmx

@@ -1,0 +1,99 @@
+// Names in the event tables are matched by local name and a small namespace id, not by URI. Here: how a URI
+// gets its id, how prefixes resolve through nested scopes, and how a name is cracked into its parts.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxinternals/c_repository.h"
+
+namespace lmx {
+
+/// The namespace ids that are fixed. A document's own URIs count from `nsid_first_user` up.
+enum elxp_namespace_id : int {
+  nsid_not_found = 0,  ///< A prefix that no declaration binds.
+  nsid_none = 1,       ///< No namespace.
+  nsid_xml = 2,        ///< The prefix "xml".
+  nsid_xsi = 5,        ///< XML Schema instance.
+  nsid_first_user = 1000,
+};
+
+/// One namespace that a schema binds; a table ends with a null URI.
+struct s_ns_map {
+  int m_id;
+  char const* mp_prefix;
+  char const* mp_uri;
+};
+
+/// One id for each distinct URI of a document.
+class ISOXML_API c_enumerated_namespaces {
+ public:
+  c_enumerated_namespaces() { clear(); }
+
+  /// The id of `uri`, 0 when it has none.
+  int find_namespace(std::string const& uri) const;
+  /// The id of `uri`, given out now if need be.
+  int add_namespace(char const* uri);
+  /// Enters `uri` under `id`. A URI already there keeps its id; later ids are above `id` either way.
+  void add_namespace(char const* uri, int id);
+  /// Forgets all but the two standard URIs.
+  void clear();
+
+ private:
+  int m_next_id = nsid_first_user;
+  c_repository<int> m_ids;
+};
+
+/// One scope of prefix declarations. Scopes nest on the stack of the code that reads elements.
+class ISOXML_API c_xml_local {
+ public:
+  c_xml_local() = default;
+  /// A scope inside `parent`, which must outlive it.
+  explicit c_xml_local(c_xml_local* parent)
+      : mp_parent(parent), mp_nearest(parent == nullptr ? nullptr : parent->mp_nearest) {}
+  c_xml_local(c_xml_local const&) = delete;
+  c_xml_local& operator=(c_xml_local const&) = delete;
+
+  /// The id that `prefix` stands for here; "" is the default namespace. Unbound: 1 for "", else 0.
+  int find_namespace_id(std::string const& prefix) const;
+  /// Binds `prefix` in this scope.
+  void add_namespace(char const* prefix, int id);
+  /// Forgets this scope's own declarations.
+  void clear_declarations() {
+    if (!m_ids.empty()) m_ids.clear();
+  }
+
+ protected:
+  c_xml_local* mp_parent = nullptr;
+  c_xml_local* mp_nearest = nullptr;  // the nearest scope, from this one outwards, that has had declarations
+
+ private:
+  c_repository<int> m_ids;
+};
+
+/// A name taken apart at its first colon.
+class ISOXML_API c_cracked_name {
+ public:
+  /// Cracks an element's name as it stands in the scope `local`.
+  void set(c_xml_local const* local, std::string const& name);
+  /// The same for an attribute: without a prefix it is in no namespace.
+  void set_for_attribute(c_xml_local const* local, std::string const& name);
+
+  /// The id; a name without a prefix and without a default namespace is in none.
+  int get_element_ns_id() const { return m_id != nsid_not_found || m_has_prefix ? m_id : nsid_none; }
+  int ns_id() const { return m_id; }
+  bool has_prefix() const { return m_has_prefix; }
+  std::string const& name() const { return m_name; }
+  /// The local name: its first byte and its length. Valid until the next `set`.
+  char const* local_name() const { return m_name.c_str() + m_local_offset; }
+  std::size_t local_length() const { return m_name.size() - m_local_offset; }
+
+ private:
+  std::string m_name;
+  bool m_has_prefix = false;
+  int m_id = nsid_none;
+  std::size_t m_local_offset = 0;
+};
+
+}  // namespace lmx

@@ -1,0 +1,209 @@
+// Digits are looked up and written as characters, never formatted as numbers: neither the stream's flags
+// nor its locale can then reach the text. Base64 goes by groups of 24 bits, four characters of six.
+#include "GenLibrarySupportFiles/lmxtypes/c_binary.h"
+
+#include <algorithm>
+#include <array>
+#include <locale>
+#include <ostream>
+#include <sstream>
+
+#include "GenLibrarySupportFiles/lmxinternals/characters.h"
+
+namespace lmx {
+
+namespace {
+
+constexpr char hex_digits[] = "0123456789ABCDEF";
+constexpr char base64_characters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+
+struct s_hex_row {
+  bool is_digit = false;
+  unsigned char value = 0;  // for no digit, what the rule for "A" to "F" would make of it
+};
+
+constexpr std::array<s_hex_row, 256> make_hex_rows() {
+  std::array<s_hex_row, 256> rows{};
+  for (int c = 0; c < 256; ++c) {
+    int const value = is_digit(c) ? c - '0' : c >= 'a' && c <= 'f' ? c - 'a' + 10 : c - 'A' + 10;
+    rows[static_cast<std::size_t>(c)] = {is_hex_digit(c), static_cast<unsigned char>(value)};
+  }
+  return rows;
+}
+
+constexpr std::array<s_hex_row, 256> hex_rows = make_hex_rows();
+
+s_hex_row const& hex_row(char c) { return hex_rows[static_cast<unsigned char>(c)]; }
+
+bool is_base64_character(int c) { return is_letter(c) || is_digit(c) || c == '+' || c == '/'; }
+
+// Padding is "=" or, for the rest of the text, anything behind a white space.
+bool is_base64_padding(std::string const& text, std::size_t from) {
+  for (std::size_t i = from; i < text.size(); ++i) {
+    if (is_space(text[i])) return true;
+    if (text[i] != '=') return false;
+  }
+  return true;
+}
+
+template <class Write>
+std::string collect(Write write) {
+  std::ostringstream out;
+  out.imbue(std::locale::classic());
+  write(out);
+  return out.str();
+}
+
+}  // namespace
+
+c_binary::c_binary(unsigned char const* bytes, unsigned int size) : m_value(bytes, bytes + size) {}
+
+c_binary& c_binary::operator=(c_binary const& other) {
+  c_binary copy(other);
+  swap(copy);
+  return *this;
+}
+
+void c_binary::set(unsigned char const* bytes, unsigned int size) {
+  c_binary copy(bytes, size);
+  swap(copy);
+}
+
+unsigned char* c_binary::get(unsigned char* out, unsigned int size) const {
+  std::copy_n(m_value.begin(), std::min<std::size_t>(size, m_value.size()), out);
+  return out;
+}
+
+unsigned char& c_binary::operator[](unsigned int i_in) {
+  LMX_ASSERT(i_in < m_value.size());
+  return m_value[i_in];
+}
+
+unsigned char const& c_binary::operator[](unsigned int i_in) const {
+  LMX_ASSERT(i_in < m_value.size());
+  return m_value[i_in];
+}
+
+c_binary& c_binary::operator+=(unsigned char byte) {
+  append(byte);
+  return *this;
+}
+
+bool c_binary::equal(unsigned char const* bytes, unsigned int size) const {
+  return std::equal(m_value.begin(), m_value.end(), bytes, bytes + size);
+}
+
+bool c_binary::is_valid_hex(std::string const& text) {
+  return text.size() % 2 == 0 &&
+         std::all_of(text.begin(), text.end(), [](char c) { return hex_row(c).is_digit; });
+}
+
+void c_binary::from_hex(std::string const& text) {
+  m_value.clear();
+  m_value.reserve(text.size() / 2);
+  for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
+    unsigned int const high = hex_row(text[i]).value;
+    unsigned int const low = hex_row(text[i + 1]).value;
+    m_value.push_back(static_cast<unsigned char>(high << 4 | low));
+  }
+}
+
+void c_binary::out_hex(std::ostream& out) const {
+  constexpr std::size_t bytes_per_write = 256;
+  char text[2 * bytes_per_write];
+  out.fill('0');  // kept: the old fill character does not come back
+  if (!empty()) out.width(0);
+  for (std::size_t from = 0; from < size(); from += bytes_per_write) {
+    std::size_t const to = std::min(size(), from + bytes_per_write);
+    char* end = text;
+    for (std::size_t i = from; i < to; ++i) {
+      *end++ = hex_digits[m_value[i] >> 4];
+      *end++ = hex_digits[m_value[i] & 0x0F];
+    }
+    out.write(text, end - text);
+  }
+}
+
+std::string c_binary::get_as_hex_string() const {
+  return collect([this](std::ostream& out) { out_hex(out); });
+}
+
+unsigned int c_binary::p_base64_char_to_6_bits(int c) {
+  if (c >= 'A' && c <= 'Z') return static_cast<unsigned int>(c - 'A');
+  if (c >= 'a' && c <= 'z') return static_cast<unsigned int>(c - 'a' + 26);
+  if (is_digit(c)) return static_cast<unsigned int>(c - '0' + 52);
+  return c == '+' ? 62 : 63;
+}
+
+char c_binary::p_6_bits_to_base64_char(unsigned int bits) { return base64_characters[bits < 63 ? bits : 63]; }
+
+bool c_binary::is_valid_base64(std::string const& text) {
+  if (text.empty()) return true;
+  std::size_t data = 0;
+  std::size_t i = 0;
+  for (; i < text.size() && (is_base64_character(text[i]) || is_space(text[i])); ++i) {
+    if (!is_space(text[i])) ++data;
+  }
+  std::size_t const padding = text.size() - i;
+  if (i < 2 || padding > 2 || (data + padding) % 4 != 0) return false;
+  return is_base64_padding(text, i);
+}
+
+void c_binary::from_base64(std::string const& text) {
+  m_value.clear();
+  m_value.reserve(text.size() / 4 * 3);
+  unsigned int bits = 0;
+  unsigned int count = 0;
+  for (char const c : text) {
+    if (!is_base64_character(c)) continue;
+    bits = bits << 6 | p_base64_char_to_6_bits(c);
+    if (++count < 4) continue;
+    p_base64_convert_24bits_to_bytes(bits, count);
+    bits = count = 0;
+  }
+  if (count > 0) p_base64_convert_24bits_to_bytes(bits << (24 - 6 * count), count);
+}
+
+// Kept: a single character left over gives a byte too, of its six bits and two zeros.
+void c_binary::p_base64_convert_24bits_to_bytes(unsigned int bits, unsigned int count) {
+  append(static_cast<unsigned char>(bits >> 16));
+  if (count >= 3) append(static_cast<unsigned char>(bits >> 8));
+  if (count == 4) append(static_cast<unsigned char>(bits));
+}
+
+void c_binary::out_base64(std::ostream& out) const {
+  unsigned int bits = 0;
+  unsigned int count = 0;
+  for (unsigned char const byte : m_value) {
+    bits = bits << 8 | byte;
+    if (++count < 3) continue;
+    p_convert_24bits_to_4x6bits(out, bits, count);
+    bits = count = 0;
+  }
+  p_convert_24bits_to_4x6bits(out, bits, count);
+}
+
+// `count` bytes, 0 to 3, stand in the low end of `bits`.
+void c_binary::p_convert_24bits_to_4x6bits(std::ostream& out, unsigned int bits, unsigned int count) {
+  if (count == 0) return;
+  bits <<= 8 * (3 - count);
+  char text[4] = {'=', '=', '=', '='};
+  for (unsigned int i = 0; i <= count; ++i) text[i] = p_6_bits_to_base64_char(bits >> (18 - 6 * i) & 0x3F);
+  out.write(text, sizeof text);
+}
+
+std::string c_binary::get_as_base64_string() const {
+  return collect([this](std::ostream& out) { out_base64(out); });
+}
+
+std::ostream& output_convert_to_hex(std::ostream& out, c_binary const& value) {
+  value.out_hex(out);
+  return out;
+}
+
+std::ostream& output_convert_to_base64(std::ostream& out, c_binary const& value) {
+  value.out_base64(out);
+  return out;
+}
+
+}  // namespace lmx

@@ -1,0 +1,61 @@
+#include "isoxmllib/engine.h"
+
+namespace binding {
+
+lmx::s_ns_map const no_namespaces[] = {{0, nullptr, nullptr}};
+
+void begin_document(lmx::xmlReader& reader) {
+  reader.m_code_file = code_file;
+  reader.set_ns_map(no_namespaces);
+  reader.m_skip_unknown = true;
+}
+
+lmx::elmx_error read_top_tag(lmx::xmlReader& reader, char const* tag, int line, std::string* name) {
+  lmx::elmx_error error;
+  reader.get_element_event(&error, name);
+  if (error != lmx::ELMX_OK) {
+    error = reader.report_error(error, *name, code_file, line);
+    if (error != lmx::ELMX_OK) return error;
+  }
+  if (reader.m_event == lmx::EXE_TOKEN && *name == tag &&
+      reader.get_ns_id(reader.mp_local, *name) == lmx::nsid_none) {
+    return lmx::ELMX_OK;
+  }
+  return reader.report_error(lmx::ELMX_ELEMENT_NOT_FOUND, *name, code_file, line);
+}
+
+lmx::elmx_error check_required(lmx::xmlReader& reader, char const* tag, int line, bool all_set) {
+  if (all_set) return lmx::ELMX_OK;
+  return reader.report_error(lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, tag, code_file, line);
+}
+
+bool is_member(lmx::xmlReader& reader, lmx::s_event_map const* map) {
+  int const event = reader.m_event;
+  reader.tokenise(map, lmx::EXAE_ELEMENT);
+  if (reader.m_event >= lmx::EXE_FIRST_USER) return true;
+  reader.m_event = event;
+  return false;
+}
+
+bool report(lmx::xmlReader& reader, lmx::elmx_error code, place const& at, lmx::elmx_error* error) {
+  *error = reader.report_error(code, at.tag, code_file, at.line);
+  return *error == lmx::ELMX_OK;
+}
+
+bool next_event(lmx::xmlReader& reader, place const& at, lmx::elmx_error* error) {
+  reader.get_known_element_event(at.map, error, &reader.m_name);
+  return *error == lmx::ELMX_OK || report(reader, *error, at, error);
+}
+
+bool report_unknown_top_element(lmx::xmlReader& reader, int line, lmx::elmx_error* error) {
+  *error = reader.report_error(lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, reader.m_name, code_file, line);
+  return *error == lmx::ELMX_OK;
+}
+
+bool check_occurs(lmx::c_check_tracker* tracker, bool is_there, char const* name, int line) {
+  if (is_there) return true;
+  lmx::c_check_tracker const missing(tracker, name);
+  return lmx::report_check_failure(&missing, code_file, line);
+}
+
+}  // namespace binding

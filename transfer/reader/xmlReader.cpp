@@ -1,0 +1,32 @@
+#include "transfer/reader/xmlReader.h"
+
+#include <mutex>
+
+#include "isoxmllib/task_data.h"
+
+namespace lmx {
+
+namespace {
+
+// Hosts may keep a metadata pointer for as long as they like, so clones are never freed; the list keeps
+// them reachable. One clone for each "P917_Metadata" read, by whichever thread reads it. The list itself is
+// never destroyed either: a host's own static objects may still look at a clone while the process ends.
+P917Metadata* keep(std::unique_ptr<P917Metadata> clone) {
+  static std::mutex guard;
+  static auto& kept = *new std::vector<std::unique_ptr<P917Metadata>>;
+  const std::lock_guard<std::mutex> lock(guard);
+  kept.push_back(std::move(clone));
+  return kept.back().get();
+}
+
+}  // namespace
+
+xmlReader::xmlReader(char const* fileName) : detail::file_input(fileName), c_xml_reader(fileInput, true) {}
+
+xmlReader::~xmlReader() = default;
+
+void xmlReader::setP917Metadata(P917Metadata* metadata) {
+  p917Metadata = keep(std::unique_ptr<P917Metadata>(metadata->clone()));
+}
+
+}  // namespace lmx

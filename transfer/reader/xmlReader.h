@@ -1,0 +1,87 @@
+// The reader that every document of a transfer set is parsed through. It is the runtime's reader with one
+// addition: each element of a few chosen classes hands itself over as soon as it is complete. Afterwards
+// the reader holds flat lists of all growers, fields, tasks and so on, wherever in the tree they stood.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "GenLibrarySupportFiles/lmxparse/c_read.h"
+#include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
+#include "isoxmllib/fwd.h"
+
+namespace lmx {
+
+namespace detail {
+
+/// Holds the file, so that it is there before the reader over it and outlives it.
+struct ISOXML_API file_input {
+  explicit file_input(char const* fileName) : fileInput(fileName) {}
+  c_read_file fileInput;
+};
+
+}  // namespace detail
+
+/// Reads one file. The lists hold borrowed pointers in the order in which the elements ended: they belong
+/// to the element tree and die with it. After a failed read none of them may be used.
+/// Threads: one at a time. The file stays open until destruction.
+class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
+ public:
+  /// Opens `fileName`. A failed open throws nothing and reports nothing: ask `isOpen`.
+  explicit xmlReader(char const* fileName);
+  ~xmlReader() override;
+
+  /// True when the file could be opened.
+  bool isOpen() const { return fileInput.is_open(); }
+
+  // Called by element classes at their end, when nothing went wrong. The pointers are borrowed.
+  void addNewGrower(Grower* grower) { growers.push_back(grower); }
+  void addNewFarm(Farm* farm) { farms.push_back(farm); }
+  void addNewField(Field* field) { fields.push_back(field); }
+  void addNewExternalFileReference(ExternalFileReference* reference) {
+    externalFileReferences.push_back(reference);
+  }
+  void addNewAttachedFile(AttachedFile* file) { attachedFiles.push_back(file); }
+  void addNewTask(Task* task) { tasks.push_back(task); }
+  void addNewProduct(Product* product) { products.push_back(product); }
+  void addNewValuePre(ValuePresentation* presentation) { valuePresentations.push_back(presentation); }
+  void addNewQuestion(P917Question* question) { questions.push_back(question); }
+  void addNewCropType(CropType* cropType) { cropTypes.push_back(cropType); }
+  void addNewProductGroup(ProductGroup* group) { productGroups.push_back(group); }
+  /// Keeps a clone, which stays valid after the reader and its document are gone. A later one takes its
+  /// place.
+  void setP917Metadata(P917Metadata* metadata);
+
+  // Copies of the lists; the pointers in them are borrowed from the document.
+  std::vector<Grower*> getGrowerContainer() const { return growers; }
+  std::vector<Farm*> getFarmContainer() const { return farms; }
+  std::vector<Field*> getFieldContainer() const { return fields; }
+  std::vector<ExternalFileReference*> getExternalFileReferenceContainer() const {
+    return externalFileReferences;
+  }
+  std::vector<AttachedFile*> getAttachedFileContainer() const { return attachedFiles; }
+  std::vector<Task*> getTaskContainer() const { return tasks; }
+  std::vector<Product*> getProductContainer() const { return products; }
+  std::vector<ValuePresentation*> getValuePreContainer() const { return valuePresentations; }
+  std::vector<P917Question*> getQuestions() const { return questions; }
+  std::vector<CropType*> getCropTypeContainer() const { return cropTypes; }
+  std::vector<ProductGroup*> getProductGroupContainer() const { return productGroups; }
+  /// The last "P917_Metadata" that was completed, or null. Valid until the process ends.
+  P917Metadata* getP917Metadata() const { return p917Metadata; }
+
+ private:
+  std::vector<Grower*> growers;
+  std::vector<Farm*> farms;
+  std::vector<Field*> fields;
+  std::vector<ExternalFileReference*> externalFileReferences;
+  std::vector<AttachedFile*> attachedFiles;
+  std::vector<Task*> tasks;
+  std::vector<Product*> products;
+  std::vector<ValuePresentation*> valuePresentations;
+  std::vector<P917Question*> questions;
+  P917Metadata* p917Metadata = nullptr;
+  std::vector<CropType*> cropTypes;
+  std::vector<ProductGroup*> productGroups;
+};
+
+}  // namespace lmx
