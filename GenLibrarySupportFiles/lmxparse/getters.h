@@ -101,7 +101,7 @@ class ISOXML_API c_get_as_utf8 {
   }
   /// Takes the bytes of the last `plain_window` before `up_to`.
   void consume_plain(unsigned char const* up_to) {
-    if (up_to == mr_read.mp_next) return;
+    if (up_to == nullptr || up_to == mr_read.mp_next) return;
     mr_read.mp_next = up_to;
     m_last_char = ' ';  // any plain byte: what matters is that it was no CR
   }
