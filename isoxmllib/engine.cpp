@@ -52,6 +52,11 @@ bool report_unknown_top_element(lmx::xmlReader& reader, int line, lmx::elmx_erro
   return *error == lmx::ELMX_OK;
 }
 
+void choose(std::int32_t& chosen, lmx::ct_choice& held, std::int32_t alternative) {
+  if (chosen != alternative) held.release();
+  chosen = alternative;
+}
+
 bool check_occurs(lmx::c_check_tracker* tracker, bool is_there, char const* name, int line) {
   if (is_there) return true;
   lmx::c_check_tracker const missing(tracker, name);

@@ -287,18 +287,27 @@ lmx::ct_complex_optional<Y>& new_one(std::int32_t& chosen, lmx::ct_choice& held,
   return held.select_one<Y>(alternative);
 }
 
+/// Makes `alternative` the chosen one; whatever another one held is freed.
+void choose(std::int32_t& chosen, lmx::ct_choice& held, std::int32_t alternative);
+
 /// The run of `alternative`, selected if it was not.
 template <class Y>
 lmx::ct_complex_multi<Y>& selected_run(std::int32_t& chosen, lmx::ct_choice& held, std::int32_t alternative) {
-  chosen = alternative;
+  choose(chosen, held, alternative);
   return held.select_run<Y>(alternative);
 }
 
 template <class Y>
 lmx::ct_complex_optional<Y>& selected_one(std::int32_t& chosen, lmx::ct_choice& held,
                                           std::int32_t alternative) {
-  chosen = alternative;
+  choose(chosen, held, alternative);
   return held.select_one<Y>(alternative);
+}
+
+/// True when `alternative` is chosen and something is held for it: `chosen` is public, and a host may have
+/// set it to anything.
+inline bool is_chosen(std::int32_t chosen, lmx::ct_choice const& held, std::int32_t alternative) {
+  return chosen == alternative && held.holds(alternative);
 }
 
 /// The condition that callers of const accessors must keep, with the text that is printed when they do not.

@@ -3,6 +3,7 @@
 
 #include "isoxmllib/root.h"
 
+#include <memory>
 #include <utility>
 
 #include "isoxmllib/engine.h"
@@ -83,37 +84,37 @@ bool Root::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
 }
 
 void Root::SelectAttachedFile() { selected_one<AttachedFile>(chosen, m_held, AttachedFileChosen); }
-AttachedFile const& Root::GetAttachedFile() const { return chosen_one<AttachedFile>(m_held, {chosen == AttachedFileChosen, "chosen == AttachedFileChosen"}); }
+AttachedFile const& Root::GetAttachedFile() const { return chosen_one<AttachedFile>(m_held, {is_chosen(chosen, m_held, AttachedFileChosen), "chosen == AttachedFileChosen"}); }
 AttachedFile& Root::GetAttachedFile() { return selected_one<AttachedFile>(chosen, m_held, AttachedFileChosen).get_or_create(); }
 
 void Root::SelectTaskData() { selected_one<TaskData>(chosen, m_held, TaskDataChosen); }
-TaskData const& Root::GetTaskData() const { return chosen_one<TaskData>(m_held, {chosen == TaskDataChosen, "chosen == TaskDataChosen"}); }
+TaskData const& Root::GetTaskData() const { return chosen_one<TaskData>(m_held, {is_chosen(chosen, m_held, TaskDataChosen), "chosen == TaskDataChosen"}); }
 TaskData& Root::GetTaskData() { return selected_one<TaskData>(chosen, m_held, TaskDataChosen).get_or_create(); }
 
 void Root::SelectP917Metadata() { selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen); }
-P917Metadata const& Root::GetP917Metadata() const { return chosen_one<P917Metadata>(m_held, {chosen == P917MetadataChosen, "chosen == P917MetadataChosen"}); }
+P917Metadata const& Root::GetP917Metadata() const { return chosen_one<P917Metadata>(m_held, {is_chosen(chosen, m_held, P917MetadataChosen), "chosen == P917MetadataChosen"}); }
 P917Metadata& Root::GetP917Metadata() { return selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen).get_or_create(); }
 
 void Root::SelectTaskControllerCapabilities() { selected_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen); }
-TaskControllerCapabilities const& Root::GetTaskControllerCapabilities() const { return chosen_one<TaskControllerCapabilities>(m_held, {chosen == TaskControllerCapabilitiesChosen, "chosen == TaskControllerCapabilitiesChosen"}); }
+TaskControllerCapabilities const& Root::GetTaskControllerCapabilities() const { return chosen_one<TaskControllerCapabilities>(m_held, {is_chosen(chosen, m_held, TaskControllerCapabilitiesChosen), "chosen == TaskControllerCapabilitiesChosen"}); }
 TaskControllerCapabilities& Root::GetTaskControllerCapabilities() { return selected_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen).get_or_create(); }
 
 void Root::SelectExternalFileReference() { selected_one<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen); }
-ExternalFileReference const& Root::GetExternalFileReference() const { return chosen_one<ExternalFileReference>(m_held, {chosen == ExternalFileReferenceChosen, "chosen == ExternalFileReferenceChosen"}); }
+ExternalFileReference const& Root::GetExternalFileReference() const { return chosen_one<ExternalFileReference>(m_held, {is_chosen(chosen, m_held, ExternalFileReferenceChosen), "chosen == ExternalFileReferenceChosen"}); }
 ExternalFileReference& Root::GetExternalFileReference() { return selected_one<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).get_or_create(); }
 
 void Root::SelectExternalFileContent() { selected_one<ExternalFileContent>(chosen, m_held, ExternalFileContentChosen); }
-ExternalFileContent const& Root::GetExternalFileContent() const { return chosen_one<ExternalFileContent>(m_held, {chosen == ExternalFileContentChosen, "chosen == ExternalFileContentChosen"}); }
+ExternalFileContent const& Root::GetExternalFileContent() const { return chosen_one<ExternalFileContent>(m_held, {is_chosen(chosen, m_held, ExternalFileContentChosen), "chosen == ExternalFileContentChosen"}); }
 ExternalFileContent& Root::GetExternalFileContent() { return selected_one<ExternalFileContent>(chosen, m_held, ExternalFileContentChosen).get_or_create(); }
 
 void Root::SelectLinkList() { selected_one<LinkList>(chosen, m_held, LinkListChosen); }
-LinkList const& Root::GetLinkList() const { return chosen_one<LinkList>(m_held, {chosen == LinkListChosen, "chosen == LinkListChosen"}); }
+LinkList const& Root::GetLinkList() const { return chosen_one<LinkList>(m_held, {is_chosen(chosen, m_held, LinkListChosen), "chosen == LinkListChosen"}); }
 LinkList& Root::GetLinkList() { return selected_one<LinkList>(chosen, m_held, LinkListChosen).get_or_create(); }
 
 void Root::SelectLink() { selected_one<Link>(chosen, m_held, LinkChosen); }
-Link const& Root::GetLink() const { return chosen_one<Link>(m_held, {chosen == LinkChosen, "chosen == LinkChosen"}); }
+Link const& Root::GetLink() const { return chosen_one<Link>(m_held, {is_chosen(chosen, m_held, LinkChosen), "chosen == LinkChosen"}); }
 Link& Root::GetLink() { return selected_one<Link>(chosen, m_held, LinkChosen).get_or_create(); }
 
 void Root::SelectLinkGroup() { selected_one<LinkGroup>(chosen, m_held, LinkGroupChosen); }
-LinkGroup const& Root::GetLinkGroup() const { return chosen_one<LinkGroup>(m_held, {chosen == LinkGroupChosen, "chosen == LinkGroupChosen"}); }
+LinkGroup const& Root::GetLinkGroup() const { return chosen_one<LinkGroup>(m_held, {is_chosen(chosen, m_held, LinkGroupChosen), "chosen == LinkGroupChosen"}); }
 LinkGroup& Root::GetLinkGroup() { return selected_one<LinkGroup>(chosen, m_held, LinkGroupChosen).get_or_create(); }

@@ -3,6 +3,7 @@
 
 #include "isoxmllib/task_data.h"
 
+#include <memory>
 #include <utility>
 
 #include "isoxmllib/engine.h"
@@ -59,38 +60,38 @@ bool InnerTaskData::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
 }
 
 void InnerTaskData::SelectP917Metadata() { selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen); }
-P917Metadata const& InnerTaskData::GetP917Metadata() const { return chosen_one<P917Metadata>(m_held, {chosen == P917MetadataChosen, "chosen == P917MetadataChosen"}); }
+P917Metadata const& InnerTaskData::GetP917Metadata() const { return chosen_one<P917Metadata>(m_held, {is_chosen(chosen, m_held, P917MetadataChosen), "chosen == P917MetadataChosen"}); }
 P917Metadata& InnerTaskData::GetP917Metadata() { return selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen).get_or_create(); }
 
 void InnerTaskData::SelectAttachedFile() { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen); }
-AttachedFile const& InnerTaskData::GetAttachedFile(std::size_t index) const { return run_at<AttachedFile>(m_held, {chosen == AttachedFileChosen, "chosen == AttachedFileChosen"}, index, "index < u.mAttachedFile->size()"); }
+AttachedFile const& InnerTaskData::GetAttachedFile(std::size_t index) const { return run_at<AttachedFile>(m_held, {is_chosen(chosen, m_held, AttachedFileChosen), "chosen == AttachedFileChosen"}, index, "index < u.mAttachedFile->size()"); }
 AttachedFile& InnerTaskData::GetAttachedFile(std::size_t index) { return selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).get_or_append(index); }
 AttachedFile& InnerTaskData::AppendAttachedFile() { return selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).append(); }
-void InnerTaskData::AppendAttachedFile(AttachedFile* value) { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).append(value); }
+void InnerTaskData::AppendAttachedFile(AttachedFile* value) { std::unique_ptr<AttachedFile> owned(value); selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).append(std::move(owned)); }
 AttachedFile& InnerTaskData::InsertAttachedFile(std::size_t index) { return selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).insert(index); }
-void InnerTaskData::InsertAttachedFile(std::size_t index, AttachedFile* value) { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).insert(index, value); }
+void InnerTaskData::InsertAttachedFile(std::size_t index, AttachedFile* value) { std::unique_ptr<AttachedFile> owned(value); selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).insert(index, std::move(owned)); }
 void InnerTaskData::AssignAttachedFile(std::size_t index, AttachedFile const& value) { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).assign(index, value); }
-void InnerTaskData::AssignAttachedFile(std::size_t index, AttachedFile* value) { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).assign(index, value); }
+void InnerTaskData::AssignAttachedFile(std::size_t index, AttachedFile* value) { std::unique_ptr<AttachedFile> owned(value); selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).assign(index, std::move(owned)); }
 AttachedFile& InnerTaskData::BackAttachedFile() { return selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).back(); }
-void InnerTaskData::DeleteAttachedFile(std::size_t index) { erase_at<AttachedFile>(m_held, {chosen == AttachedFileChosen, "chosen == AttachedFileChosen"}, index, "index < u.mAttachedFile->size()"); }
+void InnerTaskData::DeleteAttachedFile(std::size_t index) { erase_at<AttachedFile>(m_held, {is_chosen(chosen, m_held, AttachedFileChosen), "chosen == AttachedFileChosen"}, index, "index < u.mAttachedFile->size()"); }
 void InnerTaskData::ClearAttachedFile() { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).clear(); }
 std::size_t InnerTaskData::SizeAttachedFile() const { return run_size<AttachedFile>(m_held, m_held.holds(AttachedFileChosen)); }
 
 void InnerTaskData::SelectTaskControllerCapabilities() { selected_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen); }
-TaskControllerCapabilities const& InnerTaskData::GetTaskControllerCapabilities() const { return chosen_one<TaskControllerCapabilities>(m_held, {chosen == TaskControllerCapabilitiesChosen, "chosen == TaskControllerCapabilitiesChosen"}); }
+TaskControllerCapabilities const& InnerTaskData::GetTaskControllerCapabilities() const { return chosen_one<TaskControllerCapabilities>(m_held, {is_chosen(chosen, m_held, TaskControllerCapabilitiesChosen), "chosen == TaskControllerCapabilitiesChosen"}); }
 TaskControllerCapabilities& InnerTaskData::GetTaskControllerCapabilities() { return selected_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen).get_or_create(); }
 
 void InnerTaskData::SelectExternalFileReference() { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen); }
-ExternalFileReference const& InnerTaskData::GetExternalFileReference(std::size_t index) const { return run_at<ExternalFileReference>(m_held, {chosen == ExternalFileReferenceChosen, "chosen == ExternalFileReferenceChosen"}, index, "index < u.mExternalFileReference->size()"); }
+ExternalFileReference const& InnerTaskData::GetExternalFileReference(std::size_t index) const { return run_at<ExternalFileReference>(m_held, {is_chosen(chosen, m_held, ExternalFileReferenceChosen), "chosen == ExternalFileReferenceChosen"}, index, "index < u.mExternalFileReference->size()"); }
 ExternalFileReference& InnerTaskData::GetExternalFileReference(std::size_t index) { return selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).get_or_append(index); }
 ExternalFileReference& InnerTaskData::AppendExternalFileReference() { return selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).append(); }
-void InnerTaskData::AppendExternalFileReference(ExternalFileReference* value) { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).append(value); }
+void InnerTaskData::AppendExternalFileReference(ExternalFileReference* value) { std::unique_ptr<ExternalFileReference> owned(value); selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).append(std::move(owned)); }
 ExternalFileReference& InnerTaskData::InsertExternalFileReference(std::size_t index) { return selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).insert(index); }
-void InnerTaskData::InsertExternalFileReference(std::size_t index, ExternalFileReference* value) { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).insert(index, value); }
+void InnerTaskData::InsertExternalFileReference(std::size_t index, ExternalFileReference* value) { std::unique_ptr<ExternalFileReference> owned(value); selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).insert(index, std::move(owned)); }
 void InnerTaskData::AssignExternalFileReference(std::size_t index, ExternalFileReference const& value) { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).assign(index, value); }
-void InnerTaskData::AssignExternalFileReference(std::size_t index, ExternalFileReference* value) { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).assign(index, value); }
+void InnerTaskData::AssignExternalFileReference(std::size_t index, ExternalFileReference* value) { std::unique_ptr<ExternalFileReference> owned(value); selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).assign(index, std::move(owned)); }
 ExternalFileReference& InnerTaskData::BackExternalFileReference() { return selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).back(); }
-void InnerTaskData::DeleteExternalFileReference(std::size_t index) { erase_at<ExternalFileReference>(m_held, {chosen == ExternalFileReferenceChosen, "chosen == ExternalFileReferenceChosen"}, index, "index < u.mExternalFileReference->size()"); }
+void InnerTaskData::DeleteExternalFileReference(std::size_t index) { erase_at<ExternalFileReference>(m_held, {is_chosen(chosen, m_held, ExternalFileReferenceChosen), "chosen == ExternalFileReferenceChosen"}, index, "index < u.mExternalFileReference->size()"); }
 void InnerTaskData::ClearExternalFileReference() { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen).clear(); }
 std::size_t InnerTaskData::SizeExternalFileReference() const { return run_size<ExternalFileReference>(m_held, m_held.holds(ExternalFileReferenceChosen)); }
 
@@ -167,11 +168,11 @@ bool TaskData::Check(lmx::c_check_tracker* tracker, char const* name) const {
 InnerTaskData const& TaskData::GetInnerTaskData(std::size_t index) const { LMX_ASSERT(index < mInnerTaskData.size()); return mInnerTaskData.get(index); }
 InnerTaskData& TaskData::GetInnerTaskData(std::size_t index) { return mInnerTaskData.get_or_append(index); }
 InnerTaskData& TaskData::AppendInnerTaskData() { return mInnerTaskData.append(); }
-void TaskData::AppendInnerTaskData(InnerTaskData* value) { mInnerTaskData.append(value); }
+void TaskData::AppendInnerTaskData(InnerTaskData* value) { mInnerTaskData.append(std::unique_ptr<InnerTaskData>(value)); }
 InnerTaskData& TaskData::InsertInnerTaskData(std::size_t index) { return mInnerTaskData.insert(index); }
-void TaskData::InsertInnerTaskData(std::size_t index, InnerTaskData* value) { mInnerTaskData.insert(index, value); }
+void TaskData::InsertInnerTaskData(std::size_t index, InnerTaskData* value) { mInnerTaskData.insert(index, std::unique_ptr<InnerTaskData>(value)); }
 void TaskData::AssignInnerTaskData(std::size_t index, InnerTaskData const& value) { mInnerTaskData.assign(index, value); }
-void TaskData::AssignInnerTaskData(std::size_t index, InnerTaskData* value) { mInnerTaskData.assign(index, value); }
+void TaskData::AssignInnerTaskData(std::size_t index, InnerTaskData* value) { mInnerTaskData.assign(index, std::unique_ptr<InnerTaskData>(value)); }
 InnerTaskData& TaskData::BackInnerTaskData() { return mInnerTaskData.back(); }
 void TaskData::DeleteInnerTaskData(std::size_t index) { LMX_ASSERT(index < mInnerTaskData.size()); mInnerTaskData.erase(index); }
 void TaskData::ClearInnerTaskData() { mInnerTaskData.clear(); }
@@ -248,11 +249,11 @@ bool ExternalFileContent::Check(lmx::c_check_tracker* tracker, char const* name)
 InnerExternalFileContent const& ExternalFileContent::GetInnerExternalFileContent(std::size_t index) const { LMX_ASSERT(index < mInnerExternalFileContent.size()); return mInnerExternalFileContent.get(index); }
 InnerExternalFileContent& ExternalFileContent::GetInnerExternalFileContent(std::size_t index) { return mInnerExternalFileContent.get_or_append(index); }
 InnerExternalFileContent& ExternalFileContent::AppendInnerExternalFileContent() { return mInnerExternalFileContent.append(); }
-void ExternalFileContent::AppendInnerExternalFileContent(InnerExternalFileContent* value) { mInnerExternalFileContent.append(value); }
+void ExternalFileContent::AppendInnerExternalFileContent(InnerExternalFileContent* value) { mInnerExternalFileContent.append(std::unique_ptr<InnerExternalFileContent>(value)); }
 InnerExternalFileContent& ExternalFileContent::InsertInnerExternalFileContent(std::size_t index) { return mInnerExternalFileContent.insert(index); }
-void ExternalFileContent::InsertInnerExternalFileContent(std::size_t index, InnerExternalFileContent* value) { mInnerExternalFileContent.insert(index, value); }
+void ExternalFileContent::InsertInnerExternalFileContent(std::size_t index, InnerExternalFileContent* value) { mInnerExternalFileContent.insert(index, std::unique_ptr<InnerExternalFileContent>(value)); }
 void ExternalFileContent::AssignInnerExternalFileContent(std::size_t index, InnerExternalFileContent const& value) { mInnerExternalFileContent.assign(index, value); }
-void ExternalFileContent::AssignInnerExternalFileContent(std::size_t index, InnerExternalFileContent* value) { mInnerExternalFileContent.assign(index, value); }
+void ExternalFileContent::AssignInnerExternalFileContent(std::size_t index, InnerExternalFileContent* value) { mInnerExternalFileContent.assign(index, std::unique_ptr<InnerExternalFileContent>(value)); }
 InnerExternalFileContent& ExternalFileContent::BackInnerExternalFileContent() { return mInnerExternalFileContent.back(); }
 void ExternalFileContent::DeleteInnerExternalFileContent(std::size_t index) { LMX_ASSERT(index < mInnerExternalFileContent.size()); mInnerExternalFileContent.erase(index); }
 void ExternalFileContent::ClearInnerExternalFileContent() { mInnerExternalFileContent.clear(); }
@@ -534,16 +535,16 @@ bool InnerLinkList::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
 }
 
 void InnerLinkList::SelectLinkGroup() { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen); }
-LinkGroup const& InnerLinkList::GetLinkGroup(std::size_t index) const { return run_at<LinkGroup>(m_held, {chosen == LinkGroupChosen, "chosen == LinkGroupChosen"}, index, "index < u.mLinkGroup->size()"); }
+LinkGroup const& InnerLinkList::GetLinkGroup(std::size_t index) const { return run_at<LinkGroup>(m_held, {is_chosen(chosen, m_held, LinkGroupChosen), "chosen == LinkGroupChosen"}, index, "index < u.mLinkGroup->size()"); }
 LinkGroup& InnerLinkList::GetLinkGroup(std::size_t index) { return selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).get_or_append(index); }
 LinkGroup& InnerLinkList::AppendLinkGroup() { return selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).append(); }
-void InnerLinkList::AppendLinkGroup(LinkGroup* value) { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).append(value); }
+void InnerLinkList::AppendLinkGroup(LinkGroup* value) { std::unique_ptr<LinkGroup> owned(value); selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).append(std::move(owned)); }
 LinkGroup& InnerLinkList::InsertLinkGroup(std::size_t index) { return selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).insert(index); }
-void InnerLinkList::InsertLinkGroup(std::size_t index, LinkGroup* value) { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).insert(index, value); }
+void InnerLinkList::InsertLinkGroup(std::size_t index, LinkGroup* value) { std::unique_ptr<LinkGroup> owned(value); selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).insert(index, std::move(owned)); }
 void InnerLinkList::AssignLinkGroup(std::size_t index, LinkGroup const& value) { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).assign(index, value); }
-void InnerLinkList::AssignLinkGroup(std::size_t index, LinkGroup* value) { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).assign(index, value); }
+void InnerLinkList::AssignLinkGroup(std::size_t index, LinkGroup* value) { std::unique_ptr<LinkGroup> owned(value); selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).assign(index, std::move(owned)); }
 LinkGroup& InnerLinkList::BackLinkGroup() { return selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).back(); }
-void InnerLinkList::DeleteLinkGroup(std::size_t index) { erase_at<LinkGroup>(m_held, {chosen == LinkGroupChosen, "chosen == LinkGroupChosen"}, index, "index < u.mLinkGroup->size()"); }
+void InnerLinkList::DeleteLinkGroup(std::size_t index) { erase_at<LinkGroup>(m_held, {is_chosen(chosen, m_held, LinkGroupChosen), "chosen == LinkGroupChosen"}, index, "index < u.mLinkGroup->size()"); }
 void InnerLinkList::ClearLinkGroup() { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen).clear(); }
 std::size_t InnerLinkList::SizeLinkGroup() const { return run_size<LinkGroup>(m_held, m_held.holds(LinkGroupChosen)); }
 
@@ -614,11 +615,11 @@ bool LinkList::Check(lmx::c_check_tracker* tracker, char const* name) const {
 InnerLinkList const& LinkList::GetInnerLinkList(std::size_t index) const { LMX_ASSERT(index < mInnerLinkList.size()); return mInnerLinkList.get(index); }
 InnerLinkList& LinkList::GetInnerLinkList(std::size_t index) { return mInnerLinkList.get_or_append(index); }
 InnerLinkList& LinkList::AppendInnerLinkList() { return mInnerLinkList.append(); }
-void LinkList::AppendInnerLinkList(InnerLinkList* value) { mInnerLinkList.append(value); }
+void LinkList::AppendInnerLinkList(InnerLinkList* value) { mInnerLinkList.append(std::unique_ptr<InnerLinkList>(value)); }
 InnerLinkList& LinkList::InsertInnerLinkList(std::size_t index) { return mInnerLinkList.insert(index); }
-void LinkList::InsertInnerLinkList(std::size_t index, InnerLinkList* value) { mInnerLinkList.insert(index, value); }
+void LinkList::InsertInnerLinkList(std::size_t index, InnerLinkList* value) { mInnerLinkList.insert(index, std::unique_ptr<InnerLinkList>(value)); }
 void LinkList::AssignInnerLinkList(std::size_t index, InnerLinkList const& value) { mInnerLinkList.assign(index, value); }
-void LinkList::AssignInnerLinkList(std::size_t index, InnerLinkList* value) { mInnerLinkList.assign(index, value); }
+void LinkList::AssignInnerLinkList(std::size_t index, InnerLinkList* value) { mInnerLinkList.assign(index, std::unique_ptr<InnerLinkList>(value)); }
 InnerLinkList& LinkList::BackInnerLinkList() { return mInnerLinkList.back(); }
 void LinkList::DeleteInnerLinkList(std::size_t index) { LMX_ASSERT(index < mInnerLinkList.size()); mInnerLinkList.erase(index); }
 void LinkList::ClearInnerLinkList() { mInnerLinkList.clear(); }
@@ -664,16 +665,16 @@ bool InnerLinkGroup::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
 }
 
 void InnerLinkGroup::SelectLink() { selected_run<Link>(chosen, m_held, LinkChosen); }
-Link const& InnerLinkGroup::GetLink(std::size_t index) const { return run_at<Link>(m_held, {chosen == LinkChosen, "chosen == LinkChosen"}, index, "index < u.mLink->size()"); }
+Link const& InnerLinkGroup::GetLink(std::size_t index) const { return run_at<Link>(m_held, {is_chosen(chosen, m_held, LinkChosen), "chosen == LinkChosen"}, index, "index < u.mLink->size()"); }
 Link& InnerLinkGroup::GetLink(std::size_t index) { return selected_run<Link>(chosen, m_held, LinkChosen).get_or_append(index); }
 Link& InnerLinkGroup::AppendLink() { return selected_run<Link>(chosen, m_held, LinkChosen).append(); }
-void InnerLinkGroup::AppendLink(Link* value) { selected_run<Link>(chosen, m_held, LinkChosen).append(value); }
+void InnerLinkGroup::AppendLink(Link* value) { std::unique_ptr<Link> owned(value); selected_run<Link>(chosen, m_held, LinkChosen).append(std::move(owned)); }
 Link& InnerLinkGroup::InsertLink(std::size_t index) { return selected_run<Link>(chosen, m_held, LinkChosen).insert(index); }
-void InnerLinkGroup::InsertLink(std::size_t index, Link* value) { selected_run<Link>(chosen, m_held, LinkChosen).insert(index, value); }
+void InnerLinkGroup::InsertLink(std::size_t index, Link* value) { std::unique_ptr<Link> owned(value); selected_run<Link>(chosen, m_held, LinkChosen).insert(index, std::move(owned)); }
 void InnerLinkGroup::AssignLink(std::size_t index, Link const& value) { selected_run<Link>(chosen, m_held, LinkChosen).assign(index, value); }
-void InnerLinkGroup::AssignLink(std::size_t index, Link* value) { selected_run<Link>(chosen, m_held, LinkChosen).assign(index, value); }
+void InnerLinkGroup::AssignLink(std::size_t index, Link* value) { std::unique_ptr<Link> owned(value); selected_run<Link>(chosen, m_held, LinkChosen).assign(index, std::move(owned)); }
 Link& InnerLinkGroup::BackLink() { return selected_run<Link>(chosen, m_held, LinkChosen).back(); }
-void InnerLinkGroup::DeleteLink(std::size_t index) { erase_at<Link>(m_held, {chosen == LinkChosen, "chosen == LinkChosen"}, index, "index < u.mLink->size()"); }
+void InnerLinkGroup::DeleteLink(std::size_t index) { erase_at<Link>(m_held, {is_chosen(chosen, m_held, LinkChosen), "chosen == LinkChosen"}, index, "index < u.mLink->size()"); }
 void InnerLinkGroup::ClearLink() { selected_run<Link>(chosen, m_held, LinkChosen).clear(); }
 std::size_t InnerLinkGroup::SizeLink() const { return run_size<Link>(m_held, m_held.holds(LinkChosen)); }
 
@@ -735,11 +736,11 @@ bool LinkGroup::Check(lmx::c_check_tracker* tracker, char const* name) const {
 InnerLinkGroup const& LinkGroup::GetInnerLinkGroup(std::size_t index) const { LMX_ASSERT(index < mInnerLinkGroup.size()); return mInnerLinkGroup.get(index); }
 InnerLinkGroup& LinkGroup::GetInnerLinkGroup(std::size_t index) { return mInnerLinkGroup.get_or_append(index); }
 InnerLinkGroup& LinkGroup::AppendInnerLinkGroup() { return mInnerLinkGroup.append(); }
-void LinkGroup::AppendInnerLinkGroup(InnerLinkGroup* value) { mInnerLinkGroup.append(value); }
+void LinkGroup::AppendInnerLinkGroup(InnerLinkGroup* value) { mInnerLinkGroup.append(std::unique_ptr<InnerLinkGroup>(value)); }
 InnerLinkGroup& LinkGroup::InsertInnerLinkGroup(std::size_t index) { return mInnerLinkGroup.insert(index); }
-void LinkGroup::InsertInnerLinkGroup(std::size_t index, InnerLinkGroup* value) { mInnerLinkGroup.insert(index, value); }
+void LinkGroup::InsertInnerLinkGroup(std::size_t index, InnerLinkGroup* value) { mInnerLinkGroup.insert(index, std::unique_ptr<InnerLinkGroup>(value)); }
 void LinkGroup::AssignInnerLinkGroup(std::size_t index, InnerLinkGroup const& value) { mInnerLinkGroup.assign(index, value); }
-void LinkGroup::AssignInnerLinkGroup(std::size_t index, InnerLinkGroup* value) { mInnerLinkGroup.assign(index, value); }
+void LinkGroup::AssignInnerLinkGroup(std::size_t index, InnerLinkGroup* value) { mInnerLinkGroup.assign(index, std::unique_ptr<InnerLinkGroup>(value)); }
 InnerLinkGroup& LinkGroup::BackInnerLinkGroup() { return mInnerLinkGroup.back(); }
 void LinkGroup::DeleteInnerLinkGroup(std::size_t index) { LMX_ASSERT(index < mInnerLinkGroup.size()); mInnerLinkGroup.erase(index); }
 void LinkGroup::ClearInnerLinkGroup() { mInnerLinkGroup.clear(); }

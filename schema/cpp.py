@@ -288,7 +288,7 @@ def alternative_event(row):
 def define_alternative(wrapper, row, limit_text):
     name, class_name = row.name, row.element.name
     chosen = f"{name}Chosen"
-    contract = f'{{chosen == {chosen}, "chosen == {chosen}"}}'
+    contract = f'{{is_chosen(chosen, m_held, {chosen}), "chosen == {chosen}"}}'
     if row.held == "one":
         one = f"selected_one<{class_name}>(chosen, m_held, {chosen})"
         lines = [
@@ -308,11 +308,11 @@ def define_alternative(wrapper, row, limit_text):
         f"{class_name} const& {wrapper}::Get{name}(std::size_t index) const {{ {limit}return run_at<{class_name}>(m_held, {contract}, index, {index_text}); }}",
         f"{class_name}& {wrapper}::Get{name}(std::size_t index) {{ {limit}return {run}.get_or_append(index); }}",
         f"{class_name}& {wrapper}::Append{name}() {{ return {run}.append(); }}",
-        f"void {wrapper}::Append{name}({class_name}* value) {{ {run}.append(value); }}",
+        f"void {wrapper}::Append{name}({class_name}* value) {{ std::unique_ptr<{class_name}> owned(value); {run}.append(std::move(owned)); }}",
         f"{class_name}& {wrapper}::Insert{name}(std::size_t index) {{ return {run}.insert(index); }}",
-        f"void {wrapper}::Insert{name}(std::size_t index, {class_name}* value) {{ {run}.insert(index, value); }}",
+        f"void {wrapper}::Insert{name}(std::size_t index, {class_name}* value) {{ std::unique_ptr<{class_name}> owned(value); {run}.insert(index, std::move(owned)); }}",
         f"void {wrapper}::Assign{name}(std::size_t index, {class_name} const& value) {{ {run}.assign(index, value); }}",
-        f"void {wrapper}::Assign{name}(std::size_t index, {class_name}* value) {{ {run}.assign(index, value); }}",
+        f"void {wrapper}::Assign{name}(std::size_t index, {class_name}* value) {{ std::unique_ptr<{class_name}> owned(value); {run}.assign(index, std::move(owned)); }}",
         f"{class_name}& {wrapper}::Back{name}() {{ return {run}.back(); }}",
         f"void {wrapper}::Delete{name}(std::size_t index) {{ erase_at<{class_name}>(m_held, {contract}, index, {index_text}); }}",
         f"void {wrapper}::Clear{name}() {{ {run}.clear(); }}",
@@ -377,11 +377,11 @@ def define_list(owner, name, class_name, member):
         f"{class_name} const& {owner}::Get{name}(std::size_t index) const {{ LMX_ASSERT(index < {member}.size()); return {member}.get(index); }}",
         f"{class_name}& {owner}::Get{name}(std::size_t index) {{ return {member}.get_or_append(index); }}",
         f"{class_name}& {owner}::Append{name}() {{ return {member}.append(); }}",
-        f"void {owner}::Append{name}({class_name}* value) {{ {member}.append(value); }}",
+        f"void {owner}::Append{name}({class_name}* value) {{ {member}.append(std::unique_ptr<{class_name}>(value)); }}",
         f"{class_name}& {owner}::Insert{name}(std::size_t index) {{ return {member}.insert(index); }}",
-        f"void {owner}::Insert{name}(std::size_t index, {class_name}* value) {{ {member}.insert(index, value); }}",
+        f"void {owner}::Insert{name}(std::size_t index, {class_name}* value) {{ {member}.insert(index, std::unique_ptr<{class_name}>(value)); }}",
         f"void {owner}::Assign{name}(std::size_t index, {class_name} const& value) {{ {member}.assign(index, value); }}",
-        f"void {owner}::Assign{name}(std::size_t index, {class_name}* value) {{ {member}.assign(index, value); }}",
+        f"void {owner}::Assign{name}(std::size_t index, {class_name}* value) {{ {member}.assign(index, std::unique_ptr<{class_name}>(value)); }}",
         f"{class_name}& {owner}::Back{name}() {{ return {member}.back(); }}",
         f"void {owner}::Delete{name}(std::size_t index) {{ LMX_ASSERT(index < {member}.size()); {member}.erase(index); }}",
         f"void {owner}::Clear{name}() {{ {member}.clear(); }}",
@@ -559,7 +559,7 @@ def group_header(schema, group):
 def group_source(schema, group):
     elements = [element for element in schema.emitted() if element.group == group]
     held = {row.element.group for element in elements for row in emitted(schema, element)}
-    lines = banner(f"schema/{group}.toml") + includes([f"isoxmllib/{group}.h"]) + ["", "#include <utility>", ""]
+    lines = banner(f"schema/{group}.toml") + includes([f"isoxmllib/{group}.h"]) + ["", "#include <memory>", "#include <utility>", ""]
     lines += includes(["isoxmllib/engine.h", "isoxmllib/events.h", "isoxmllib/rules.h", "isoxmllib/specs.h"]
                       + [f"isoxmllib/{name}.h" for name in sorted(held - {group})])
     lines += ["", "using namespace binding;", ""]
@@ -587,7 +587,7 @@ def root_header(schema):
 def root_source(schema):
     rows = root_rows(schema)
     groups = [group for group in model.GROUPS if any(row.element.group == group for row in rows)]
-    lines = banner("schema/root.toml") + includes(["isoxmllib/root.h"]) + ["", "#include <utility>", ""]
+    lines = banner("schema/root.toml") + includes(["isoxmllib/root.h"]) + ["", "#include <memory>", "#include <utility>", ""]
     lines += includes(["isoxmllib/engine.h", "isoxmllib/events.h"] + [f"isoxmllib/{group}.h" for group in sorted(groups)])
     lines += ["", "using namespace binding;", ""]
     lines += define_life("Root", " chosen = NothingChosen; ", READ_ROOT) + [""]

@@ -1,12 +1,16 @@
 #!/usr/bin/env python3
 """Turns the description of the format into its products. Writes only files that change.
 
-    generate.py            write
-    generate.py --check    compare, and fail if a file is not current
+    generate.py [--check] [--schema FOLDER] [--output FOLDER]
+
+With --check nothing is written: the exit status is 1 if a file is not current.
 """
 
+import argparse
 import sys
 from pathlib import Path
+
+sys.dont_write_bytecode = True
 
 import cpp
 import model
@@ -15,29 +19,31 @@ PRODUCTS = [cpp]
 PROJECT = Path(__file__).resolve().parent.parent
 
 
-def main(arguments):
-    check = arguments == ["--check"]
-    if arguments and not check:
-        print(__doc__, file=sys.stderr)
-        return 2
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--check", action="store_true", help="compare instead of writing")
+    parser.add_argument("--schema", type=Path, default=model.HERE, help="where the description is")
+    parser.add_argument("--output", type=Path, default=PROJECT, help="where the products go")
+    arguments = parser.parse_args()
     try:
-        schema = model.load()
-    except model.DescriptionError as error:
+        schema = model.load(arguments.schema)
+    except (model.DescriptionError, model.tomllib.TOMLDecodeError) as error:
         print(f"schema: {error}", file=sys.stderr)
         return 1
     stale = []
     for product in PRODUCTS:
         for path, text in product.files(schema).items():
-            target = PROJECT / path
+            target = arguments.output / path
             if target.exists() and target.read_text() == text:
                 continue
             stale.append(path)
-            if not check:
+            if not arguments.check:
+                target.parent.mkdir(parents=True, exist_ok=True)
                 target.write_text(text)
     for path in stale:
-        print(f"{path} is not current" if check else f"wrote {path}")
-    return 1 if check and stale else 0
+        print(f"{path} is not current" if arguments.check else f"wrote {path}")
+    return 1 if arguments.check and stale else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    sys.exit(main())

@@ -76,8 +76,8 @@ case ${1-} in
       ${no_proxy:+no_proxy="$no_proxy"} sh "$project_in_root/scripts/i386.sh" in-root
     ;;
   in-root)
-    # shellcheck disable=SC2086  # lists of words
-    install_packages $build_packages $test_packages
+    # shellcheck disable=SC2119  # none beyond the common ones
+    prepare_tests
     build_preset i386
     exec ctest --preset i386 --no-tests=error
     ;;

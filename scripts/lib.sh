@@ -4,11 +4,10 @@
 
 CDPATH='' cd -- "$(dirname -- "$0")/.." || exit
 
-# What every build needs, and what the tests need beside it; both lists are the same in a 32-bit root.
-# shellcheck disable=SC2034
+# What every build needs, and what its tests need beside it, on 64 bits and in a 32-bit root alike.
+# shellcheck disable=SC2034  # used by those who read this
 build_packages="g++ cmake ninja-build pkg-config libxml2-dev libcli11-dev nlohmann-json3-dev"
-# shellcheck disable=SC2034
-test_packages="python3 binutils libgtest-dev libgmock-dev libxml2-utils xsltproc"
+test_packages="python3 binutils libgtest-dev libgmock-dev libxml2-utils xsltproc locales"
 
 # Runs a command as root. sudo drops the environment, so the machine's proxies are handed over by name.
 as_root() {
@@ -43,6 +42,14 @@ install_packages() {
 apt_get() {
   as_root env DEBIAN_FRONTEND=noninteractive DEBCONF_NOWARNINGS=yes \
     apt-get -qq -o DPkg::Lock::Timeout=600 -o Dpkg::Use-Pty=0 "$@"
+}
+
+# prepare_tests [<package>...]: installs all that build and tests need, with further packages, and makes
+# the locale with a decimal comma that no number may depend on.
+prepare_tests() {
+  # shellcheck disable=SC2086  # lists of words
+  install_packages $build_packages $test_packages "$@"
+  locale -a | grep -qix 'de_DE.utf-\?8' || as_root localedef -i de_DE -f UTF-8 de_DE.UTF-8
 }
 
 # build_preset <preset>: configures and builds on all processors.

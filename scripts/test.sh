@@ -4,7 +4,6 @@
 set -eu
 . "$(dirname -- "$0")/lib.sh"
 
-# shellcheck disable=SC2086  # lists of words
-install_packages $build_packages $test_packages clang-format
+prepare_tests clang-format
 build_preset release
 exec ctest --preset release --no-tests=error

@@ -202,15 +202,21 @@ class ct_complex_multi {
     return *m_values.back();
   }
   T& append() { return append(std::make_unique<T>()); }
-  /// Takes ownership.
-  T& append(T* value) { return append(std::unique_ptr<T>(value)); }
+  T& append(std::unique_ptr<T> value) {
+    m_values.push_back(std::move(value));
+    return *m_values.back();
+  }
   T& insert(std::size_t index) { return insert(index, std::make_unique<T>()); }
-  /// Takes ownership.
-  T& insert(std::size_t index, T* value) { return insert(index, std::unique_ptr<T>(value)); }
+  T& insert(std::size_t index_in, std::unique_ptr<T> value) {
+    LMX_ASSERT(index_in <= m_values.size());
+    return **m_values.insert(m_values.begin() + static_cast<std::ptrdiff_t>(index_in), std::move(value));
+  }
   /// Replaces the child at `index`; default children are added until it exists.
   void assign(std::size_t index, T const& value) { assign(index, std::unique_ptr<T>(value.clone())); }
-  /// Takes ownership.
-  void assign(std::size_t index, T* value) { assign(index, std::unique_ptr<T>(value)); }
+  void assign(std::size_t index, std::unique_ptr<T> value) {
+    get_or_append(index);
+    m_values[index] = std::move(value);
+  }
   void erase(std::size_t index_in) {
     LMX_ASSERT(index_in < m_values.size());
     m_values.erase(m_values.begin() + static_cast<std::ptrdiff_t>(index_in));
@@ -218,19 +224,6 @@ class ct_complex_multi {
   void clear() { m_values.clear(); }
 
  private:
-  T& append(std::unique_ptr<T> value) {
-    m_values.push_back(std::move(value));
-    return *m_values.back();
-  }
-  T& insert(std::size_t index_in, std::unique_ptr<T> value) {
-    LMX_ASSERT(index_in <= m_values.size());
-    return **m_values.insert(m_values.begin() + static_cast<std::ptrdiff_t>(index_in), std::move(value));
-  }
-  void assign(std::size_t index, std::unique_ptr<T> value) {
-    get_or_append(index);
-    m_values[index] = std::move(value);
-  }
-
   std::vector<std::unique_ptr<T>> m_values;
 };
 
