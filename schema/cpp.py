@@ -700,6 +700,10 @@ def validators_source(schema):
         lines += [f"lmx::c_regex const pattern_{index}({quoted(pattern)});" for index, pattern in enumerate(patterns)] + [""]
     if bounds:
         lines += [f"lmx::c_big_int const {bound_name(bound)}({quoted(bound)});" for bound in bounds] + [""]
+    ranges = sorted({(value.cpp_type, bound) for _, value in values if value.type == "decimal" and value.rule.low is not None
+                     for bound in (value.rule.low, value.rule.high)}, key=lambda row: float(row[1]))
+    if ranges:
+        lines += [f"{cpp_type} const {bound_name(bound)}({quoted(bound)});" for cpp_type, bound in ranges] + [""]
     lines += ["}  // namespace", ""]
     for number, value in lexical:
         lines.append(define_lexical(number, value.rule, patterns))
@@ -745,7 +749,8 @@ def define_value(number, value):
     if rule.min_bytes is not None:
         return f"{head}{reader_value} {{ return check_size(reader, value.size(), {rule.min_bytes}, {rule.max_bytes}); }}"
     if rule.low is not None:
-        return f"{head}{reader_value} {{ return check_range<{value.cpp_type}>(reader, value, {quoted(rule.low)}, {quoted(rule.high)}); }}"
+        low, high = (rule.low, rule.high) if value.type == "double" else (bound_name(rule.low), bound_name(rule.high))
+        return f"{head}{reader_value} {{ return check_range(reader, value, {low}, {high}); }}"
     return f"{head}(lmx::c_xml_reader&, {value.cpp_type} const&) {{ return lmx::ELMX_OK; }}"
 
 

@@ -14,8 +14,10 @@ sys.dont_write_bytecode = True
 
 import cpp
 import model
+import reference
+import xsd
 
-PRODUCTS = [cpp]
+PRODUCTS = [cpp, xsd, reference]
 PROJECT = Path(__file__).resolve().parent.parent
 
 

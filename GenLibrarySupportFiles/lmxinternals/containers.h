@@ -77,11 +77,13 @@ struct ct_happy_ptr_deleter {
 /// A list of owned objects, each at an address of its own.
 template <class T, class Vector = std::vector<T*>, class Deleter = ct_happy_ptr_deleter<T>>
 class ct_non_pod_container {
+  using owner = std::unique_ptr<T>;
+
  public:
   ct_non_pod_container() = default;
   ct_non_pod_container(ct_non_pod_container const& other) {
     m_values.reserve(other.size());
-    for (T const* value : other.m_values) m_values.emplace_back(new T(*value));
+    for (owner const& value : other.m_values) m_values.push_back(std::make_unique<T>(*value));
   }
   ct_non_pod_container(ct_non_pod_container&&) noexcept = default;
   ct_non_pod_container& operator=(ct_non_pod_container const& other) {
@@ -108,8 +110,6 @@ class ct_non_pod_container {
   void erase(std::size_t index) { m_values.erase(m_values.begin() + static_cast<std::ptrdiff_t>(index)); }
 
  private:
-  using owner = std::unique_ptr<T>;
-
   T& append(owner value) {
     m_values.push_back(std::move(value));
     return *m_values.back();

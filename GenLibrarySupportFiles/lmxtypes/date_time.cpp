@@ -27,17 +27,17 @@ namespace {
 // ---- Shapes ----
 
 // The marks: "+" an optional sign, "Y" the year, "M" month, "D" day, "h" hours, "m" minutes, "s" seconds,
-// "d" a day of any number of digits. Any other byte stands for itself. A zone ends every shape.
+// "d" a day of any number of digits, "!" no sign. Any other byte stands for itself. A zone ends every shape.
 struct s_shape {
   char const* valid;
-  char const* parsed;  // and written, where "+" gives nothing
+  char const* parsed;  // and written, where "+" and "!" give nothing
 };
 
-// Validating and reading disagree in three rows; kept, as hosts know the types like this.
+// Validating and reading disagree in three rows. Kept: both are settled behaviour of these types.
 constexpr s_shape shapes[] = {
     {"+Y-M-DTh:m:s", "+Y-M-DTh:m:s"},  // datetime
     {"+Y-M-D", "+Y-M-D"},              // date
-    {"+h:m:s", "h:m:s"},               // time
+    {"+h:m:s", "!h:m:s"},              // time
     {"+Y", "+Y"},                      // gyear
     {"+Y-M", "+Y-M"},                  // gyearmonth
     {"--M-D", "--M-d"},                // gmonthday
@@ -125,22 +125,21 @@ std::ostream& write_date(std::ostream& out, T const& value) {
   return write(out, value.get_as_string());
 }
 
+// What the relations compare: no zone.
+auto fields_in_order(c_datetime_base const& value) {
+  return std::tie(value.m_year, value.m_month, value.m_day, value.m_hours, value.m_mins, value.m_secs);
+}
+
 }  // namespace
 
 // ---- Date and time types ----
 
 bool c_datetime_base::is_equal(c_datetime_base const& other) const noexcept {
-  auto const fields = [](c_datetime_base const& value) {
-    return std::tie(value.m_year, value.m_month, value.m_day, value.m_hours, value.m_mins, value.m_secs);
-  };
-  return fields(*this) == fields(other);
+  return fields_in_order(*this) == fields_in_order(other);
 }
 
 bool c_datetime_base::is_greater_than(c_datetime_base const& other) const noexcept {
-  auto const fields = [](c_datetime_base const& value) {
-    return std::tie(value.m_year, value.m_month, value.m_day, value.m_hours, value.m_mins, value.m_secs);
-  };
-  return fields(*this) > fields(other);
+  return fields_in_order(*this) > fields_in_order(other);
 }
 
 bool c_datetime_base::is_valid_tz(char const*& p) noexcept {
@@ -197,6 +196,7 @@ bool c_datetime_base::p_parse_field(char const*& p, char mark) noexcept {
     case 'h': return get_digits(p, m_hours) == field_digits;
     case 'm': return get_digits(p, m_mins) == field_digits;
     case 's': return get_decimal(p, m_secs) >= field_digits;
+    case '!': return *p != '+' && *p != '-';
     default: return skip_byte(p, mark);
   }
 }
@@ -210,7 +210,8 @@ std::string c_datetime_base::p_text(detail::e_date_shape shape) const {
 
 void c_datetime_base::p_append_field(std::string& text, char mark) const {
   switch (mark) {
-    case '+': return;  // the year brings its own sign
+    case '+':  // the year brings its own sign
+    case '!': return;
     case 'Y': return append_number(text, m_year, year_width);
     case 'M': return append_number(text, m_month, field_width);
     case 'D':
@@ -332,6 +333,11 @@ std::uint64_t days(c_duration const& value, unsigned int const (&days_of_months)
   return value.m_days + days_of_months[value.m_months] + extra_years * days_of_year;
 }
 
+// What the relations compare: no sign.
+auto fields_in_order(c_duration const& value) {
+  return std::tie(value.m_years, value.m_months, value.m_days, value.m_hours, value.m_mins, value.m_secs);
+}
+
 }  // namespace
 
 c_duration& c_duration::operator=(char const* text) {
@@ -376,15 +382,13 @@ bool c_duration::p_is_indeterminate(c_duration const& other) const noexcept {
 bool c_duration::p_is_equal(c_duration const& other) const noexcept {
   c_duration const a = p_normalized();
   c_duration const b = other.p_normalized();
-  return a.m_is_negative == b.m_is_negative && a.m_years == b.m_years && a.m_months == b.m_months &&
-         a.m_days == b.m_days && a.m_hours == b.m_hours && a.m_mins == b.m_mins && a.m_secs == b.m_secs;
+  return a.m_is_negative == b.m_is_negative && fields_in_order(a) == fields_in_order(b);
 }
 
 bool c_duration::p_is_greater_than(c_duration const& other) const noexcept {
   c_duration const a = p_normalized();
   c_duration const b = other.p_normalized();
-  return std::tie(a.m_years, a.m_months, a.m_days, a.m_hours, a.m_mins, a.m_secs) >
-         std::tie(b.m_years, b.m_months, b.m_days, b.m_hours, b.m_mins, b.m_secs);
+  return fields_in_order(a) > fields_in_order(b);
 }
 
 std::string c_duration::get_as_string() const {

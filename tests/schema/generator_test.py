@@ -73,10 +73,10 @@ class TinyDescription(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             run = generate("--schema", HERE / "golden/schema", "--output", folder)
             self.assertEqual(0, run.returncode, run.stderr)
-            names = sorted(path.name for path in (Path(folder) / "isoxmllib").iterdir())
-            golden = HERE / "golden/isoxmllib"
-            self.assertEqual(sorted(path.name for path in golden.iterdir()), names)
-            _, differ, errors = filecmp.cmpfiles(golden, Path(folder) / "isoxmllib", names, shallow=False)
+            golden = HERE / "golden/output"
+            names = sorted(str(path.relative_to(folder)) for path in Path(folder).rglob("*.*"))
+            self.assertEqual(sorted(str(path.relative_to(golden)) for path in golden.rglob("*.*")), names)
+            _, differ, errors = filecmp.cmpfiles(golden, folder, names, shallow=False)
             self.assertEqual(([], []), (differ, errors))
 
     def test_writes_only_what_changed(self):
