@@ -7,4 +7,5 @@
 #include "GenLibrarySupportFiles/lmxtypes/c_decimal.h"    // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxtypes/c_regex.h"      // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxtypes/conversions.h"  // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxtypes/date_time.h"    // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxtypes/lexical.h"      // IWYU pragma: export

@@ -23,6 +23,58 @@ class ISOXML_API Root {
     P917MetadataChosen = 2,
     TaskControllerCapabilitiesChosen = 3,
     ExternalFileReferenceChosen = 4,
+    AllocationStampChosen = 5,
+    BaseStationChosen = 6,
+    CodedCommentChosen = 7,
+    CoddedCommentGroupChosen = 8,
+    CodedCommentListValueChosen = 9,
+    ColourLegendChosen = 10,
+    ColourRangeChosen = 11,
+    CommentAllocationChosen = 12,
+    ConnectionChosen = 13,
+    ControlAssignmentChosen = 14,
+    CropTypeChosen = 15,
+    CropVarietyChosen = 16,
+    CulturalPracticeChosen = 17,
+    GrowerChosen = 18,
+    DataLogTriggerChosen = 19,
+    DataLogValueChosen = 20,
+    DeviceChosen = 21,
+    DeviceAllocationChosen = 22,
+    DeviceElementChosen = 23,
+    DeviceObjectReferenceChosen = 24,
+    DeviceProcessDataChosen = 25,
+    DevicePropertyChosen = 26,
+    DeviceValuePresentationChosen = 27,
+    FarmChosen = 28,
+    GridChosen = 29,
+    GuidanceAllocationChosen = 30,
+    GuidanceGroupChosen = 31,
+    GuidancePatternChosen = 32,
+    GuidanceShiftChosen = 33,
+    LineStringChosen = 34,
+    OperationTechniqueChosen = 35,
+    OperationTechniqueReferenceChosen = 36,
+    OperTechPracticeChosen = 37,
+    FieldChosen = 38,
+    PointChosen = 39,
+    PolygonChosen = 40,
+    PositionChosen = 41,
+    ProcessDataVariableChosen = 42,
+    ProductChosen = 43,
+    ProductAllocationChosen = 44,
+    ProductGroupChosen = 45,
+    ProductRelationChosen = 46,
+    TaskChosen = 47,
+    TimeChosen = 48,
+    TimeLogChosen = 49,
+    TreatmentZoneChosen = 50,
+    ValuePresentationChosen = 51,
+    WorkerChosen = 52,
+    WorkerAllocationChosen = 53,
+    P917CommentChosen = 54,
+    P917QuestionsChosen = 55,
+    P917QuestionChosen = 56,
     ExternalFileContentChosen = 57,
     LinkListChosen = 58,
     LinkChosen = 59,
@@ -90,6 +142,371 @@ class ISOXML_API Root {
   /// other selects and creates it.
   ExternalFileReference const& GetExternalFileReference() const;
   ExternalFileReference& GetExternalFileReference();
+
+  /// Makes `AllocationStamp` the alternative held, with no object yet; no effect when it is already.
+  void SelectAllocationStamp();
+  /// The "ASP". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  AllocationStamp const& GetAllocationStamp() const;
+  AllocationStamp& GetAllocationStamp();
+
+  /// Makes `BaseStation` the alternative held, with no object yet; no effect when it is already.
+  void SelectBaseStation();
+  /// The "BSN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  BaseStation const& GetBaseStation() const;
+  BaseStation& GetBaseStation();
+
+  /// Makes `CodedComment` the alternative held, with no object yet; no effect when it is already.
+  void SelectCodedComment();
+  /// The "CCT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CodedComment const& GetCodedComment() const;
+  CodedComment& GetCodedComment();
+
+  /// Makes `CoddedCommentGroup` the alternative held, with no object yet; no effect when it is already.
+  void SelectCoddedCommentGroup();
+  /// The "CCG". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CoddedCommentGroup const& GetCoddedCommentGroup() const;
+  CoddedCommentGroup& GetCoddedCommentGroup();
+
+  /// Makes `CodedCommentListValue` the alternative held, with no object yet; no effect when it is already.
+  void SelectCodedCommentListValue();
+  /// The "CCL". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CodedCommentListValue const& GetCodedCommentListValue() const;
+  CodedCommentListValue& GetCodedCommentListValue();
+
+  /// Makes `ColourLegend` the alternative held, with no object yet; no effect when it is already.
+  void SelectColourLegend();
+  /// The "CLD". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ColourLegend const& GetColourLegend() const;
+  ColourLegend& GetColourLegend();
+
+  /// Makes `ColourRange` the alternative held, with no object yet; no effect when it is already.
+  void SelectColourRange();
+  /// The "CRG". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ColourRange const& GetColourRange() const;
+  ColourRange& GetColourRange();
+
+  /// Makes `CommentAllocation` the alternative held, with no object yet; no effect when it is already.
+  void SelectCommentAllocation();
+  /// The "CAN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CommentAllocation const& GetCommentAllocation() const;
+  CommentAllocation& GetCommentAllocation();
+
+  /// Makes `Connection` the alternative held, with no object yet; no effect when it is already.
+  void SelectConnection();
+  /// The "CNN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Connection const& GetConnection() const;
+  Connection& GetConnection();
+
+  /// Makes `ControlAssignment` the alternative held, with no object yet; no effect when it is already.
+  void SelectControlAssignment();
+  /// The "CAT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ControlAssignment const& GetControlAssignment() const;
+  ControlAssignment& GetControlAssignment();
+
+  /// Makes `CropType` the alternative held, with no object yet; no effect when it is already.
+  void SelectCropType();
+  /// The "CTP". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CropType const& GetCropType() const;
+  CropType& GetCropType();
+
+  /// Makes `CropVariety` the alternative held, with no object yet; no effect when it is already.
+  void SelectCropVariety();
+  /// The "CVT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CropVariety const& GetCropVariety() const;
+  CropVariety& GetCropVariety();
+
+  /// Makes `CulturalPractice` the alternative held, with no object yet; no effect when it is already.
+  void SelectCulturalPractice();
+  /// The "CPC". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  CulturalPractice const& GetCulturalPractice() const;
+  CulturalPractice& GetCulturalPractice();
+
+  /// Makes `Grower` the alternative held, with no object yet; no effect when it is already.
+  void SelectGrower();
+  /// The "CTR". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Grower const& GetGrower() const;
+  Grower& GetGrower();
+
+  /// Makes `DataLogTrigger` the alternative held, with no object yet; no effect when it is already.
+  void SelectDataLogTrigger();
+  /// The "DLT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DataLogTrigger const& GetDataLogTrigger() const;
+  DataLogTrigger& GetDataLogTrigger();
+
+  /// Makes `DataLogValue` the alternative held, with no object yet; no effect when it is already.
+  void SelectDataLogValue();
+  /// The "DLV". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DataLogValue const& GetDataLogValue() const;
+  DataLogValue& GetDataLogValue();
+
+  /// Makes `Device` the alternative held, with no object yet; no effect when it is already.
+  void SelectDevice();
+  /// The "DVC". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Device const& GetDevice() const;
+  Device& GetDevice();
+
+  /// Makes `DeviceAllocation` the alternative held, with no object yet; no effect when it is already.
+  void SelectDeviceAllocation();
+  /// The "DAN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DeviceAllocation const& GetDeviceAllocation() const;
+  DeviceAllocation& GetDeviceAllocation();
+
+  /// Makes `DeviceElement` the alternative held, with no object yet; no effect when it is already.
+  void SelectDeviceElement();
+  /// The "DET". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DeviceElement const& GetDeviceElement() const;
+  DeviceElement& GetDeviceElement();
+
+  /// Makes `DeviceObjectReference` the alternative held, with no object yet; no effect when it is already.
+  void SelectDeviceObjectReference();
+  /// The "DOR". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DeviceObjectReference const& GetDeviceObjectReference() const;
+  DeviceObjectReference& GetDeviceObjectReference();
+
+  /// Makes `DeviceProcessData` the alternative held, with no object yet; no effect when it is already.
+  void SelectDeviceProcessData();
+  /// The "DPD". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DeviceProcessData const& GetDeviceProcessData() const;
+  DeviceProcessData& GetDeviceProcessData();
+
+  /// Makes `DeviceProperty` the alternative held, with no object yet; no effect when it is already.
+  void SelectDeviceProperty();
+  /// The "DPT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DeviceProperty const& GetDeviceProperty() const;
+  DeviceProperty& GetDeviceProperty();
+
+  /// Makes `DeviceValuePresentation` the alternative held, with no object yet; no effect when it is already.
+  void SelectDeviceValuePresentation();
+  /// The "DVP". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  DeviceValuePresentation const& GetDeviceValuePresentation() const;
+  DeviceValuePresentation& GetDeviceValuePresentation();
+
+  /// Makes `Farm` the alternative held, with no object yet; no effect when it is already.
+  void SelectFarm();
+  /// The "FRM". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Farm const& GetFarm() const;
+  Farm& GetFarm();
+
+  /// Makes `Grid` the alternative held, with no object yet; no effect when it is already.
+  void SelectGrid();
+  /// The "GRD". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Grid const& GetGrid() const;
+  Grid& GetGrid();
+
+  /// Makes `GuidanceAllocation` the alternative held, with no object yet; no effect when it is already.
+  void SelectGuidanceAllocation();
+  /// The "GAN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  GuidanceAllocation const& GetGuidanceAllocation() const;
+  GuidanceAllocation& GetGuidanceAllocation();
+
+  /// Makes `GuidanceGroup` the alternative held, with no object yet; no effect when it is already.
+  void SelectGuidanceGroup();
+  /// The "GGP". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  GuidanceGroup const& GetGuidanceGroup() const;
+  GuidanceGroup& GetGuidanceGroup();
+
+  /// Makes `GuidancePattern` the alternative held, with no object yet; no effect when it is already.
+  void SelectGuidancePattern();
+  /// The "GPN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  GuidancePattern const& GetGuidancePattern() const;
+  GuidancePattern& GetGuidancePattern();
+
+  /// Makes `GuidanceShift` the alternative held, with no object yet; no effect when it is already.
+  void SelectGuidanceShift();
+  /// The "GST". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  GuidanceShift const& GetGuidanceShift() const;
+  GuidanceShift& GetGuidanceShift();
+
+  /// Makes `LineString` the alternative held, with no object yet; no effect when it is already.
+  void SelectLineString();
+  /// The "LSG". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  LineString const& GetLineString() const;
+  LineString& GetLineString();
+
+  /// Makes `OperationTechnique` the alternative held, with no object yet; no effect when it is already.
+  void SelectOperationTechnique();
+  /// The "OTQ". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  OperationTechnique const& GetOperationTechnique() const;
+  OperationTechnique& GetOperationTechnique();
+
+  /// Makes `OperationTechniqueReference` the alternative held, with no object yet; no effect when it is already.
+  void SelectOperationTechniqueReference();
+  /// The "OTR". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  OperationTechniqueReference const& GetOperationTechniqueReference() const;
+  OperationTechniqueReference& GetOperationTechniqueReference();
+
+  /// Makes `OperTechPractice` the alternative held, with no object yet; no effect when it is already.
+  void SelectOperTechPractice();
+  /// The "OTP". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  OperTechPractice const& GetOperTechPractice() const;
+  OperTechPractice& GetOperTechPractice();
+
+  /// Makes `Field` the alternative held, with no object yet; no effect when it is already.
+  void SelectField();
+  /// The "PFD". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Field const& GetField() const;
+  Field& GetField();
+
+  /// Makes `Point` the alternative held, with no object yet; no effect when it is already.
+  void SelectPoint();
+  /// The "PNT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Point const& GetPoint() const;
+  Point& GetPoint();
+
+  /// Makes `Polygon` the alternative held, with no object yet; no effect when it is already.
+  void SelectPolygon();
+  /// The "PLN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Polygon const& GetPolygon() const;
+  Polygon& GetPolygon();
+
+  /// Makes `Position` the alternative held, with no object yet; no effect when it is already.
+  void SelectPosition();
+  /// The "PTN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Position const& GetPosition() const;
+  Position& GetPosition();
+
+  /// Makes `ProcessDataVariable` the alternative held, with no object yet; no effect when it is already.
+  void SelectProcessDataVariable();
+  /// The "PDV". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ProcessDataVariable const& GetProcessDataVariable() const;
+  ProcessDataVariable& GetProcessDataVariable();
+
+  /// Makes `Product` the alternative held, with no object yet; no effect when it is already.
+  void SelectProduct();
+  /// The "PDT". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Product const& GetProduct() const;
+  Product& GetProduct();
+
+  /// Makes `ProductAllocation` the alternative held, with no object yet; no effect when it is already.
+  void SelectProductAllocation();
+  /// The "PAN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ProductAllocation const& GetProductAllocation() const;
+  ProductAllocation& GetProductAllocation();
+
+  /// Makes `ProductGroup` the alternative held, with no object yet; no effect when it is already.
+  void SelectProductGroup();
+  /// The "PGP". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ProductGroup const& GetProductGroup() const;
+  ProductGroup& GetProductGroup();
+
+  /// Makes `ProductRelation` the alternative held, with no object yet; no effect when it is already.
+  void SelectProductRelation();
+  /// The "PRN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ProductRelation const& GetProductRelation() const;
+  ProductRelation& GetProductRelation();
+
+  /// Makes `Task` the alternative held, with no object yet; no effect when it is already.
+  void SelectTask();
+  /// The "TSK". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Task const& GetTask() const;
+  Task& GetTask();
+
+  /// Makes `Time` the alternative held, with no object yet; no effect when it is already.
+  void SelectTime();
+  /// The "TIM". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Time const& GetTime() const;
+  Time& GetTime();
+
+  /// Makes `TimeLog` the alternative held, with no object yet; no effect when it is already.
+  void SelectTimeLog();
+  /// The "TLG". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  TimeLog const& GetTimeLog() const;
+  TimeLog& GetTimeLog();
+
+  /// Makes `TreatmentZone` the alternative held, with no object yet; no effect when it is already.
+  void SelectTreatmentZone();
+  /// The "TZN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  TreatmentZone const& GetTreatmentZone() const;
+  TreatmentZone& GetTreatmentZone();
+
+  /// Makes `ValuePresentation` the alternative held, with no object yet; no effect when it is already.
+  void SelectValuePresentation();
+  /// The "VPN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  ValuePresentation const& GetValuePresentation() const;
+  ValuePresentation& GetValuePresentation();
+
+  /// Makes `Worker` the alternative held, with no object yet; no effect when it is already.
+  void SelectWorker();
+  /// The "WKR". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  Worker const& GetWorker() const;
+  Worker& GetWorker();
+
+  /// Makes `WorkerAllocation` the alternative held, with no object yet; no effect when it is already.
+  void SelectWorkerAllocation();
+  /// The "WAN". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  WorkerAllocation const& GetWorkerAllocation() const;
+  WorkerAllocation& GetWorkerAllocation();
+
+  /// Makes `P917Comment` the alternative held, with no object yet; no effect when it is already.
+  void SelectP917Comment();
+  /// The "P917_comment". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  P917Comment const& GetP917Comment() const;
+  P917Comment& GetP917Comment();
+  void SetP917Comment(std::string const& text);
+
+  /// Makes `P917Questions` the alternative held, with no object yet; no effect when it is already.
+  void SelectP917Questions();
+  /// The "P917_Questions". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  P917Questions const& GetP917Questions() const;
+  P917Questions& GetP917Questions();
+
+  /// Makes `P917Question` the alternative held, with no object yet; no effect when it is already.
+  void SelectP917Question();
+  /// The "P917_Question". The const form stops the process unless it is chosen and there; the
+  /// other selects and creates it.
+  P917Question const& GetP917Question() const;
+  P917Question& GetP917Question();
 
   /// Makes `ExternalFileContent` the alternative held, with no object yet; no effect when it is already.
   void SelectExternalFileContent();

@@ -10,6 +10,11 @@
 #include "isoxmllib/events.h"
 #include "isoxmllib/rules.h"
 #include "isoxmllib/specs.h"
+#include "isoxmllib/device.h"
+#include "isoxmllib/field_geometry.h"
+#include "isoxmllib/master_data.h"
+#include "isoxmllib/question.h"
+#include "isoxmllib/task.h"
 
 using namespace binding;
 
@@ -29,8 +34,25 @@ void InnerTaskData::init() { chosen = NothingChosen; }
 
 lmx::s_event_map const InnerTaskData::elem_event_map[] = {
     {1, "P917_Metadata", 13, elem_P917Metadata},
+    {1, "P917_Questions", 14, elem_P917Questions},
     {1, "AFE", 3, elem_AttachedFile},
+    {1, "BSN", 3, elem_BaseStation},
+    {1, "CCT", 3, elem_CodedComment},
+    {1, "CCG", 3, elem_CodedCommentGroup},
+    {1, "CLD", 3, elem_ColourLegend},
+    {1, "CTP", 3, elem_CropType},
+    {1, "CPC", 3, elem_CulturalPractice},
+    {1, "CTR", 3, elem_Grower},
+    {1, "DVC", 3, elem_Device},
+    {1, "FRM", 3, elem_Farm},
+    {1, "OTQ", 3, elem_OperationTechnique},
+    {1, "PFD", 3, elem_Field},
+    {1, "PDT", 3, elem_Product},
+    {1, "PGP", 3, elem_ProductGroup},
+    {1, "TSK", 3, elem_Task},
     {1, "TCC", 3, elem_TaskControllerCapabilities},
+    {1, "VPN", 3, elem_ValuePresentation},
+    {1, "WKR", 3, elem_Worker},
     {1, "XFR", 3, elem_ExternalFileReference},
     {0, nullptr, 0, 0},
 };
@@ -41,8 +63,25 @@ bool InnerTaskData::Check(lmx::c_check_tracker* tracker, char const* name) const
   if (!IsOccursOk(&link)) return false;
   switch (chosen) {
     case P917MetadataChosen: return m_held.check(&link, "P917_Metadata");
+    case P917QuestionsChosen: return m_held.check(&link, "P917_Questions");
     case AttachedFileChosen: return m_held.check(&link, "AFE");
+    case BaseStationChosen: return m_held.check(&link, "BSN");
+    case CodedCommentChosen: return m_held.check(&link, "CCT");
+    case CodedCommentGroupChosen: return m_held.check(&link, "CCG");
+    case ColourLegendChosen: return m_held.check(&link, "CLD");
+    case CropTypeChosen: return m_held.check(&link, "CTP");
+    case CulturalPracticeChosen: return m_held.check(&link, "CPC");
+    case GrowerChosen: return m_held.check(&link, "CTR");
+    case DeviceChosen: return m_held.check(&link, "DVC");
+    case FarmChosen: return m_held.check(&link, "FRM");
+    case OperationTechniqueChosen: return m_held.check(&link, "OTQ");
+    case FieldChosen: return m_held.check(&link, "PFD");
+    case ProductChosen: return m_held.check(&link, "PDT");
+    case ProductGroupChosen: return m_held.check(&link, "PGP");
+    case TaskChosen: return m_held.check(&link, "TSK");
     case TaskControllerCapabilitiesChosen: return m_held.check(&link, "TCC");
+    case ValuePresentationChosen: return m_held.check(&link, "VPN");
+    case WorkerChosen: return m_held.check(&link, "WKR");
     case ExternalFileReferenceChosen: return m_held.check(&link, "XFR");
   }
   return true;
@@ -52,8 +91,25 @@ bool InnerTaskData::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(elem_event_map, lmx::EXAE_ELEMENT);
   switch (reader.m_event) {
     case elem_P917Metadata: return read_one(reader, new_one<P917Metadata>(chosen, m_held, P917MetadataChosen), {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_P917Questions: return read_run(reader, new_run<P917Questions>(chosen, m_held, P917QuestionsChosen), elem_P917Questions, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
     case elem_AttachedFile: return read_run(reader, new_run<AttachedFile>(chosen, m_held, AttachedFileChosen), elem_AttachedFile, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_BaseStation: return read_run(reader, new_run<BaseStation>(chosen, m_held, BaseStationChosen), elem_BaseStation, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_CodedComment: return read_run(reader, new_run<CodedComment>(chosen, m_held, CodedCommentChosen), elem_CodedComment, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_CodedCommentGroup: return read_run(reader, new_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen), elem_CodedCommentGroup, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_ColourLegend: return read_run(reader, new_run<ColourLegend>(chosen, m_held, ColourLegendChosen), elem_ColourLegend, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_CropType: return read_run(reader, new_run<CropType>(chosen, m_held, CropTypeChosen), elem_CropType, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_CulturalPractice: return read_run(reader, new_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen), elem_CulturalPractice, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Grower: return read_run(reader, new_run<Grower>(chosen, m_held, GrowerChosen), elem_Grower, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Device: return read_run(reader, new_run<Device>(chosen, m_held, DeviceChosen), elem_Device, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Farm: return read_run(reader, new_run<Farm>(chosen, m_held, FarmChosen), elem_Farm, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_OperationTechnique: return read_run(reader, new_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen), elem_OperationTechnique, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Field: return read_run(reader, new_run<Field>(chosen, m_held, FieldChosen), elem_Field, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Product: return read_run(reader, new_run<Product>(chosen, m_held, ProductChosen), elem_Product, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_ProductGroup: return read_run(reader, new_run<ProductGroup>(chosen, m_held, ProductGroupChosen), elem_ProductGroup, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Task: return read_run(reader, new_run<Task>(chosen, m_held, TaskChosen), elem_Task, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
     case elem_TaskControllerCapabilities: return read_one(reader, new_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen), {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_ValuePresentation: return read_run(reader, new_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen), elem_ValuePresentation, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
+    case elem_Worker: return read_run(reader, new_run<Worker>(chosen, m_held, WorkerChosen), elem_Worker, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
     case elem_ExternalFileReference: return read_run(reader, new_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen), elem_ExternalFileReference, {elem_event_map, "ISO11783_TaskData", __LINE__}, error);
   }
   return true;
@@ -62,6 +118,20 @@ bool InnerTaskData::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
 void InnerTaskData::SelectP917Metadata() { selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen); }
 P917Metadata const& InnerTaskData::GetP917Metadata() const { return chosen_one<P917Metadata>(m_held, {is_chosen(chosen, m_held, P917MetadataChosen), "chosen == P917MetadataChosen"}); }
 P917Metadata& InnerTaskData::GetP917Metadata() { return selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen).get_or_create(); }
+
+void InnerTaskData::SelectP917Questions() { selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen); }
+P917Questions const& InnerTaskData::GetP917Questions(std::size_t index) const { return run_at<P917Questions>(m_held, {is_chosen(chosen, m_held, P917QuestionsChosen), "chosen == P917QuestionsChosen"}, index, "index < u.mP917Questions->size()"); }
+P917Questions& InnerTaskData::GetP917Questions(std::size_t index) { return selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).get_or_append(index); }
+P917Questions& InnerTaskData::AppendP917Questions() { return selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).append(); }
+void InnerTaskData::AppendP917Questions(P917Questions* value) { std::unique_ptr<P917Questions> owned(value); selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).append(std::move(owned)); }
+P917Questions& InnerTaskData::InsertP917Questions(std::size_t index) { return selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).insert(index); }
+void InnerTaskData::InsertP917Questions(std::size_t index, P917Questions* value) { std::unique_ptr<P917Questions> owned(value); selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignP917Questions(std::size_t index, P917Questions const& value) { selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).assign(index, value); }
+void InnerTaskData::AssignP917Questions(std::size_t index, P917Questions* value) { std::unique_ptr<P917Questions> owned(value); selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).assign(index, std::move(owned)); }
+P917Questions& InnerTaskData::BackP917Questions() { return selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).back(); }
+void InnerTaskData::DeleteP917Questions(std::size_t index) { erase_at<P917Questions>(m_held, {is_chosen(chosen, m_held, P917QuestionsChosen), "chosen == P917QuestionsChosen"}, index, "index < u.mP917Questions->size()"); }
+void InnerTaskData::ClearP917Questions() { selected_run<P917Questions>(chosen, m_held, P917QuestionsChosen).clear(); }
+std::size_t InnerTaskData::SizeP917Questions() const { return run_size<P917Questions>(m_held, m_held.holds(P917QuestionsChosen)); }
 
 void InnerTaskData::SelectAttachedFile() { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen); }
 AttachedFile const& InnerTaskData::GetAttachedFile(std::size_t index) const { return run_at<AttachedFile>(m_held, {is_chosen(chosen, m_held, AttachedFileChosen), "chosen == AttachedFileChosen"}, index, "index < u.mAttachedFile->size()"); }
@@ -77,9 +147,233 @@ void InnerTaskData::DeleteAttachedFile(std::size_t index) { erase_at<AttachedFil
 void InnerTaskData::ClearAttachedFile() { selected_run<AttachedFile>(chosen, m_held, AttachedFileChosen).clear(); }
 std::size_t InnerTaskData::SizeAttachedFile() const { return run_size<AttachedFile>(m_held, m_held.holds(AttachedFileChosen)); }
 
+void InnerTaskData::SelectBaseStation() { selected_run<BaseStation>(chosen, m_held, BaseStationChosen); }
+BaseStation const& InnerTaskData::GetBaseStation(std::size_t index) const { return run_at<BaseStation>(m_held, {is_chosen(chosen, m_held, BaseStationChosen), "chosen == BaseStationChosen"}, index, "index < u.mBaseStation->size()"); }
+BaseStation& InnerTaskData::GetBaseStation(std::size_t index) { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).get_or_append(index); }
+BaseStation& InnerTaskData::AppendBaseStation() { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).append(); }
+void InnerTaskData::AppendBaseStation(BaseStation* value) { std::unique_ptr<BaseStation> owned(value); selected_run<BaseStation>(chosen, m_held, BaseStationChosen).append(std::move(owned)); }
+BaseStation& InnerTaskData::InsertBaseStation(std::size_t index) { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).insert(index); }
+void InnerTaskData::InsertBaseStation(std::size_t index, BaseStation* value) { std::unique_ptr<BaseStation> owned(value); selected_run<BaseStation>(chosen, m_held, BaseStationChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignBaseStation(std::size_t index, BaseStation const& value) { selected_run<BaseStation>(chosen, m_held, BaseStationChosen).assign(index, value); }
+void InnerTaskData::AssignBaseStation(std::size_t index, BaseStation* value) { std::unique_ptr<BaseStation> owned(value); selected_run<BaseStation>(chosen, m_held, BaseStationChosen).assign(index, std::move(owned)); }
+BaseStation& InnerTaskData::BackBaseStation() { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).back(); }
+void InnerTaskData::DeleteBaseStation(std::size_t index) { erase_at<BaseStation>(m_held, {is_chosen(chosen, m_held, BaseStationChosen), "chosen == BaseStationChosen"}, index, "index < u.mBaseStation->size()"); }
+void InnerTaskData::ClearBaseStation() { selected_run<BaseStation>(chosen, m_held, BaseStationChosen).clear(); }
+std::size_t InnerTaskData::SizeBaseStation() const { return run_size<BaseStation>(m_held, m_held.holds(BaseStationChosen)); }
+
+void InnerTaskData::SelectCodedComment() { selected_run<CodedComment>(chosen, m_held, CodedCommentChosen); }
+CodedComment const& InnerTaskData::GetCodedComment(std::size_t index) const { return run_at<CodedComment>(m_held, {is_chosen(chosen, m_held, CodedCommentChosen), "chosen == CodedCommentChosen"}, index, "index < u.mCodedComment->size()"); }
+CodedComment& InnerTaskData::GetCodedComment(std::size_t index) { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).get_or_append(index); }
+CodedComment& InnerTaskData::AppendCodedComment() { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).append(); }
+void InnerTaskData::AppendCodedComment(CodedComment* value) { std::unique_ptr<CodedComment> owned(value); selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).append(std::move(owned)); }
+CodedComment& InnerTaskData::InsertCodedComment(std::size_t index) { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).insert(index); }
+void InnerTaskData::InsertCodedComment(std::size_t index, CodedComment* value) { std::unique_ptr<CodedComment> owned(value); selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignCodedComment(std::size_t index, CodedComment const& value) { selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).assign(index, value); }
+void InnerTaskData::AssignCodedComment(std::size_t index, CodedComment* value) { std::unique_ptr<CodedComment> owned(value); selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).assign(index, std::move(owned)); }
+CodedComment& InnerTaskData::BackCodedComment() { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).back(); }
+void InnerTaskData::DeleteCodedComment(std::size_t index) { erase_at<CodedComment>(m_held, {is_chosen(chosen, m_held, CodedCommentChosen), "chosen == CodedCommentChosen"}, index, "index < u.mCodedComment->size()"); }
+void InnerTaskData::ClearCodedComment() { selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).clear(); }
+std::size_t InnerTaskData::SizeCodedComment() const { return run_size<CodedComment>(m_held, m_held.holds(CodedCommentChosen)); }
+
+void InnerTaskData::SelectCodedCommentGroup() { selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen); }
+CoddedCommentGroup const& InnerTaskData::GetCodedCommentGroup(std::size_t index) const { return run_at<CoddedCommentGroup>(m_held, {is_chosen(chosen, m_held, CodedCommentGroupChosen), "chosen == CodedCommentGroupChosen"}, index, "index < u.mCodedCommentGroup->size()"); }
+CoddedCommentGroup& InnerTaskData::GetCodedCommentGroup(std::size_t index) { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).get_or_append(index); }
+CoddedCommentGroup& InnerTaskData::AppendCodedCommentGroup() { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).append(); }
+void InnerTaskData::AppendCodedCommentGroup(CoddedCommentGroup* value) { std::unique_ptr<CoddedCommentGroup> owned(value); selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).append(std::move(owned)); }
+CoddedCommentGroup& InnerTaskData::InsertCodedCommentGroup(std::size_t index) { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).insert(index); }
+void InnerTaskData::InsertCodedCommentGroup(std::size_t index, CoddedCommentGroup* value) { std::unique_ptr<CoddedCommentGroup> owned(value); selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup const& value) { selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).assign(index, value); }
+void InnerTaskData::AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup* value) { std::unique_ptr<CoddedCommentGroup> owned(value); selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).assign(index, std::move(owned)); }
+CoddedCommentGroup& InnerTaskData::BackCodedCommentGroup() { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).back(); }
+void InnerTaskData::DeleteCodedCommentGroup(std::size_t index) { erase_at<CoddedCommentGroup>(m_held, {is_chosen(chosen, m_held, CodedCommentGroupChosen), "chosen == CodedCommentGroupChosen"}, index, "index < u.mCodedCommentGroup->size()"); }
+void InnerTaskData::ClearCodedCommentGroup() { selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).clear(); }
+std::size_t InnerTaskData::SizeCodedCommentGroup() const { return run_size<CoddedCommentGroup>(m_held, m_held.holds(CodedCommentGroupChosen)); }
+
+void InnerTaskData::SelectColourLegend() { selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen); }
+ColourLegend const& InnerTaskData::GetColourLegend(std::size_t index) const { return run_at<ColourLegend>(m_held, {is_chosen(chosen, m_held, ColourLegendChosen), "chosen == ColourLegendChosen"}, index, "index < u.mColourLegend->size()"); }
+ColourLegend& InnerTaskData::GetColourLegend(std::size_t index) { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).get_or_append(index); }
+ColourLegend& InnerTaskData::AppendColourLegend() { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).append(); }
+void InnerTaskData::AppendColourLegend(ColourLegend* value) { std::unique_ptr<ColourLegend> owned(value); selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).append(std::move(owned)); }
+ColourLegend& InnerTaskData::InsertColourLegend(std::size_t index) { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).insert(index); }
+void InnerTaskData::InsertColourLegend(std::size_t index, ColourLegend* value) { std::unique_ptr<ColourLegend> owned(value); selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignColourLegend(std::size_t index, ColourLegend const& value) { selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).assign(index, value); }
+void InnerTaskData::AssignColourLegend(std::size_t index, ColourLegend* value) { std::unique_ptr<ColourLegend> owned(value); selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).assign(index, std::move(owned)); }
+ColourLegend& InnerTaskData::BackColourLegend() { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).back(); }
+void InnerTaskData::DeleteColourLegend(std::size_t index) { erase_at<ColourLegend>(m_held, {is_chosen(chosen, m_held, ColourLegendChosen), "chosen == ColourLegendChosen"}, index, "index < u.mColourLegend->size()"); }
+void InnerTaskData::ClearColourLegend() { selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).clear(); }
+std::size_t InnerTaskData::SizeColourLegend() const { return run_size<ColourLegend>(m_held, m_held.holds(ColourLegendChosen)); }
+
+void InnerTaskData::SelectCropType() { selected_run<CropType>(chosen, m_held, CropTypeChosen); }
+CropType const& InnerTaskData::GetCropType(std::size_t index) const { return run_at<CropType>(m_held, {is_chosen(chosen, m_held, CropTypeChosen), "chosen == CropTypeChosen"}, index, "index < u.mCropType->size()"); }
+CropType& InnerTaskData::GetCropType(std::size_t index) { return selected_run<CropType>(chosen, m_held, CropTypeChosen).get_or_append(index); }
+CropType& InnerTaskData::AppendCropType() { return selected_run<CropType>(chosen, m_held, CropTypeChosen).append(); }
+void InnerTaskData::AppendCropType(CropType* value) { std::unique_ptr<CropType> owned(value); selected_run<CropType>(chosen, m_held, CropTypeChosen).append(std::move(owned)); }
+CropType& InnerTaskData::InsertCropType(std::size_t index) { return selected_run<CropType>(chosen, m_held, CropTypeChosen).insert(index); }
+void InnerTaskData::InsertCropType(std::size_t index, CropType* value) { std::unique_ptr<CropType> owned(value); selected_run<CropType>(chosen, m_held, CropTypeChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignCropType(std::size_t index, CropType const& value) { selected_run<CropType>(chosen, m_held, CropTypeChosen).assign(index, value); }
+void InnerTaskData::AssignCropType(std::size_t index, CropType* value) { std::unique_ptr<CropType> owned(value); selected_run<CropType>(chosen, m_held, CropTypeChosen).assign(index, std::move(owned)); }
+CropType& InnerTaskData::BackCropType() { return selected_run<CropType>(chosen, m_held, CropTypeChosen).back(); }
+void InnerTaskData::DeleteCropType(std::size_t index) { erase_at<CropType>(m_held, {is_chosen(chosen, m_held, CropTypeChosen), "chosen == CropTypeChosen"}, index, "index < u.mCropType->size()"); }
+void InnerTaskData::ClearCropType() { selected_run<CropType>(chosen, m_held, CropTypeChosen).clear(); }
+std::size_t InnerTaskData::SizeCropType() const { return run_size<CropType>(m_held, m_held.holds(CropTypeChosen)); }
+
+void InnerTaskData::SelectCulturalPractice() { selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen); }
+CulturalPractice const& InnerTaskData::GetCulturalPractice(std::size_t index) const { return run_at<CulturalPractice>(m_held, {is_chosen(chosen, m_held, CulturalPracticeChosen), "chosen == CulturalPracticeChosen"}, index, "index < u.mCulturalPractice->size()"); }
+CulturalPractice& InnerTaskData::GetCulturalPractice(std::size_t index) { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).get_or_append(index); }
+CulturalPractice& InnerTaskData::AppendCulturalPractice() { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).append(); }
+void InnerTaskData::AppendCulturalPractice(CulturalPractice* value) { std::unique_ptr<CulturalPractice> owned(value); selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).append(std::move(owned)); }
+CulturalPractice& InnerTaskData::InsertCulturalPractice(std::size_t index) { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).insert(index); }
+void InnerTaskData::InsertCulturalPractice(std::size_t index, CulturalPractice* value) { std::unique_ptr<CulturalPractice> owned(value); selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignCulturalPractice(std::size_t index, CulturalPractice const& value) { selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).assign(index, value); }
+void InnerTaskData::AssignCulturalPractice(std::size_t index, CulturalPractice* value) { std::unique_ptr<CulturalPractice> owned(value); selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).assign(index, std::move(owned)); }
+CulturalPractice& InnerTaskData::BackCulturalPractice() { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).back(); }
+void InnerTaskData::DeleteCulturalPractice(std::size_t index) { erase_at<CulturalPractice>(m_held, {is_chosen(chosen, m_held, CulturalPracticeChosen), "chosen == CulturalPracticeChosen"}, index, "index < u.mCulturalPractice->size()"); }
+void InnerTaskData::ClearCulturalPractice() { selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).clear(); }
+std::size_t InnerTaskData::SizeCulturalPractice() const { return run_size<CulturalPractice>(m_held, m_held.holds(CulturalPracticeChosen)); }
+
+void InnerTaskData::SelectGrower() { selected_run<Grower>(chosen, m_held, GrowerChosen); }
+Grower const& InnerTaskData::GetGrower(std::size_t index) const { return run_at<Grower>(m_held, {is_chosen(chosen, m_held, GrowerChosen), "chosen == GrowerChosen"}, index, "index < u.mGrower->size()"); }
+Grower& InnerTaskData::GetGrower(std::size_t index) { return selected_run<Grower>(chosen, m_held, GrowerChosen).get_or_append(index); }
+Grower& InnerTaskData::AppendGrower() { return selected_run<Grower>(chosen, m_held, GrowerChosen).append(); }
+void InnerTaskData::AppendGrower(Grower* value) { std::unique_ptr<Grower> owned(value); selected_run<Grower>(chosen, m_held, GrowerChosen).append(std::move(owned)); }
+Grower& InnerTaskData::InsertGrower(std::size_t index) { return selected_run<Grower>(chosen, m_held, GrowerChosen).insert(index); }
+void InnerTaskData::InsertGrower(std::size_t index, Grower* value) { std::unique_ptr<Grower> owned(value); selected_run<Grower>(chosen, m_held, GrowerChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignGrower(std::size_t index, Grower const& value) { selected_run<Grower>(chosen, m_held, GrowerChosen).assign(index, value); }
+void InnerTaskData::AssignGrower(std::size_t index, Grower* value) { std::unique_ptr<Grower> owned(value); selected_run<Grower>(chosen, m_held, GrowerChosen).assign(index, std::move(owned)); }
+Grower& InnerTaskData::BackGrower() { return selected_run<Grower>(chosen, m_held, GrowerChosen).back(); }
+void InnerTaskData::DeleteGrower(std::size_t index) { erase_at<Grower>(m_held, {is_chosen(chosen, m_held, GrowerChosen), "chosen == GrowerChosen"}, index, "index < u.mGrower->size()"); }
+void InnerTaskData::ClearGrower() { selected_run<Grower>(chosen, m_held, GrowerChosen).clear(); }
+std::size_t InnerTaskData::SizeGrower() const { return run_size<Grower>(m_held, m_held.holds(GrowerChosen)); }
+
+void InnerTaskData::SelectDevice() { selected_run<Device>(chosen, m_held, DeviceChosen); }
+Device const& InnerTaskData::GetDevice(std::size_t index) const { return run_at<Device>(m_held, {is_chosen(chosen, m_held, DeviceChosen), "chosen == DeviceChosen"}, index, "index < u.mDevice->size()"); }
+Device& InnerTaskData::GetDevice(std::size_t index) { return selected_run<Device>(chosen, m_held, DeviceChosen).get_or_append(index); }
+Device& InnerTaskData::AppendDevice() { return selected_run<Device>(chosen, m_held, DeviceChosen).append(); }
+void InnerTaskData::AppendDevice(Device* value) { std::unique_ptr<Device> owned(value); selected_run<Device>(chosen, m_held, DeviceChosen).append(std::move(owned)); }
+Device& InnerTaskData::InsertDevice(std::size_t index) { return selected_run<Device>(chosen, m_held, DeviceChosen).insert(index); }
+void InnerTaskData::InsertDevice(std::size_t index, Device* value) { std::unique_ptr<Device> owned(value); selected_run<Device>(chosen, m_held, DeviceChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignDevice(std::size_t index, Device const& value) { selected_run<Device>(chosen, m_held, DeviceChosen).assign(index, value); }
+void InnerTaskData::AssignDevice(std::size_t index, Device* value) { std::unique_ptr<Device> owned(value); selected_run<Device>(chosen, m_held, DeviceChosen).assign(index, std::move(owned)); }
+Device& InnerTaskData::BackDevice() { return selected_run<Device>(chosen, m_held, DeviceChosen).back(); }
+void InnerTaskData::DeleteDevice(std::size_t index) { erase_at<Device>(m_held, {is_chosen(chosen, m_held, DeviceChosen), "chosen == DeviceChosen"}, index, "index < u.mDevice->size()"); }
+void InnerTaskData::ClearDevice() { selected_run<Device>(chosen, m_held, DeviceChosen).clear(); }
+std::size_t InnerTaskData::SizeDevice() const { return run_size<Device>(m_held, m_held.holds(DeviceChosen)); }
+
+void InnerTaskData::SelectFarm() { selected_run<Farm>(chosen, m_held, FarmChosen); }
+Farm const& InnerTaskData::GetFarm(std::size_t index) const { return run_at<Farm>(m_held, {is_chosen(chosen, m_held, FarmChosen), "chosen == FarmChosen"}, index, "index < u.mFarm->size()"); }
+Farm& InnerTaskData::GetFarm(std::size_t index) { return selected_run<Farm>(chosen, m_held, FarmChosen).get_or_append(index); }
+Farm& InnerTaskData::AppendFarm() { return selected_run<Farm>(chosen, m_held, FarmChosen).append(); }
+void InnerTaskData::AppendFarm(Farm* value) { std::unique_ptr<Farm> owned(value); selected_run<Farm>(chosen, m_held, FarmChosen).append(std::move(owned)); }
+Farm& InnerTaskData::InsertFarm(std::size_t index) { return selected_run<Farm>(chosen, m_held, FarmChosen).insert(index); }
+void InnerTaskData::InsertFarm(std::size_t index, Farm* value) { std::unique_ptr<Farm> owned(value); selected_run<Farm>(chosen, m_held, FarmChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignFarm(std::size_t index, Farm const& value) { selected_run<Farm>(chosen, m_held, FarmChosen).assign(index, value); }
+void InnerTaskData::AssignFarm(std::size_t index, Farm* value) { std::unique_ptr<Farm> owned(value); selected_run<Farm>(chosen, m_held, FarmChosen).assign(index, std::move(owned)); }
+Farm& InnerTaskData::BackFarm() { return selected_run<Farm>(chosen, m_held, FarmChosen).back(); }
+void InnerTaskData::DeleteFarm(std::size_t index) { erase_at<Farm>(m_held, {is_chosen(chosen, m_held, FarmChosen), "chosen == FarmChosen"}, index, "index < u.mFarm->size()"); }
+void InnerTaskData::ClearFarm() { selected_run<Farm>(chosen, m_held, FarmChosen).clear(); }
+std::size_t InnerTaskData::SizeFarm() const { return run_size<Farm>(m_held, m_held.holds(FarmChosen)); }
+
+void InnerTaskData::SelectOperationTechnique() { selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen); }
+OperationTechnique const& InnerTaskData::GetOperationTechnique(std::size_t index) const { return run_at<OperationTechnique>(m_held, {is_chosen(chosen, m_held, OperationTechniqueChosen), "chosen == OperationTechniqueChosen"}, index, "index < u.mOperationTechnique->size()"); }
+OperationTechnique& InnerTaskData::GetOperationTechnique(std::size_t index) { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).get_or_append(index); }
+OperationTechnique& InnerTaskData::AppendOperationTechnique() { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).append(); }
+void InnerTaskData::AppendOperationTechnique(OperationTechnique* value) { std::unique_ptr<OperationTechnique> owned(value); selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).append(std::move(owned)); }
+OperationTechnique& InnerTaskData::InsertOperationTechnique(std::size_t index) { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).insert(index); }
+void InnerTaskData::InsertOperationTechnique(std::size_t index, OperationTechnique* value) { std::unique_ptr<OperationTechnique> owned(value); selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignOperationTechnique(std::size_t index, OperationTechnique const& value) { selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).assign(index, value); }
+void InnerTaskData::AssignOperationTechnique(std::size_t index, OperationTechnique* value) { std::unique_ptr<OperationTechnique> owned(value); selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).assign(index, std::move(owned)); }
+OperationTechnique& InnerTaskData::BackOperationTechnique() { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).back(); }
+void InnerTaskData::DeleteOperationTechnique(std::size_t index) { erase_at<OperationTechnique>(m_held, {is_chosen(chosen, m_held, OperationTechniqueChosen), "chosen == OperationTechniqueChosen"}, index, "index < u.mOperationTechnique->size()"); }
+void InnerTaskData::ClearOperationTechnique() { selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).clear(); }
+std::size_t InnerTaskData::SizeOperationTechnique() const { return run_size<OperationTechnique>(m_held, m_held.holds(OperationTechniqueChosen)); }
+
+void InnerTaskData::SelectField() { selected_run<Field>(chosen, m_held, FieldChosen); }
+Field const& InnerTaskData::GetField(std::size_t index) const { return run_at<Field>(m_held, {is_chosen(chosen, m_held, FieldChosen), "chosen == FieldChosen"}, index, "index < u.mField->size()"); }
+Field& InnerTaskData::GetField(std::size_t index) { return selected_run<Field>(chosen, m_held, FieldChosen).get_or_append(index); }
+Field& InnerTaskData::AppendField() { return selected_run<Field>(chosen, m_held, FieldChosen).append(); }
+void InnerTaskData::AppendField(Field* value) { std::unique_ptr<Field> owned(value); selected_run<Field>(chosen, m_held, FieldChosen).append(std::move(owned)); }
+Field& InnerTaskData::InsertField(std::size_t index) { return selected_run<Field>(chosen, m_held, FieldChosen).insert(index); }
+void InnerTaskData::InsertField(std::size_t index, Field* value) { std::unique_ptr<Field> owned(value); selected_run<Field>(chosen, m_held, FieldChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignField(std::size_t index, Field const& value) { selected_run<Field>(chosen, m_held, FieldChosen).assign(index, value); }
+void InnerTaskData::AssignField(std::size_t index, Field* value) { std::unique_ptr<Field> owned(value); selected_run<Field>(chosen, m_held, FieldChosen).assign(index, std::move(owned)); }
+Field& InnerTaskData::BackField() { return selected_run<Field>(chosen, m_held, FieldChosen).back(); }
+void InnerTaskData::DeleteField(std::size_t index) { erase_at<Field>(m_held, {is_chosen(chosen, m_held, FieldChosen), "chosen == FieldChosen"}, index, "index < u.mField->size()"); }
+void InnerTaskData::ClearField() { selected_run<Field>(chosen, m_held, FieldChosen).clear(); }
+std::size_t InnerTaskData::SizeField() const { return run_size<Field>(m_held, m_held.holds(FieldChosen)); }
+
+void InnerTaskData::SelectProduct() { selected_run<Product>(chosen, m_held, ProductChosen); }
+Product const& InnerTaskData::GetProduct(std::size_t index) const { return run_at<Product>(m_held, {is_chosen(chosen, m_held, ProductChosen), "chosen == ProductChosen"}, index, "index < u.mProduct->size()"); }
+Product& InnerTaskData::GetProduct(std::size_t index) { return selected_run<Product>(chosen, m_held, ProductChosen).get_or_append(index); }
+Product& InnerTaskData::AppendProduct() { return selected_run<Product>(chosen, m_held, ProductChosen).append(); }
+void InnerTaskData::AppendProduct(Product* value) { std::unique_ptr<Product> owned(value); selected_run<Product>(chosen, m_held, ProductChosen).append(std::move(owned)); }
+Product& InnerTaskData::InsertProduct(std::size_t index) { return selected_run<Product>(chosen, m_held, ProductChosen).insert(index); }
+void InnerTaskData::InsertProduct(std::size_t index, Product* value) { std::unique_ptr<Product> owned(value); selected_run<Product>(chosen, m_held, ProductChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignProduct(std::size_t index, Product const& value) { selected_run<Product>(chosen, m_held, ProductChosen).assign(index, value); }
+void InnerTaskData::AssignProduct(std::size_t index, Product* value) { std::unique_ptr<Product> owned(value); selected_run<Product>(chosen, m_held, ProductChosen).assign(index, std::move(owned)); }
+Product& InnerTaskData::BackProduct() { return selected_run<Product>(chosen, m_held, ProductChosen).back(); }
+void InnerTaskData::DeleteProduct(std::size_t index) { erase_at<Product>(m_held, {is_chosen(chosen, m_held, ProductChosen), "chosen == ProductChosen"}, index, "index < u.mProduct->size()"); }
+void InnerTaskData::ClearProduct() { selected_run<Product>(chosen, m_held, ProductChosen).clear(); }
+std::size_t InnerTaskData::SizeProduct() const { return run_size<Product>(m_held, m_held.holds(ProductChosen)); }
+
+void InnerTaskData::SelectProductGroup() { selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen); }
+ProductGroup const& InnerTaskData::GetProductGroup(std::size_t index) const { return run_at<ProductGroup>(m_held, {is_chosen(chosen, m_held, ProductGroupChosen), "chosen == ProductGroupChosen"}, index, "index < u.mProductGroup->size()"); }
+ProductGroup& InnerTaskData::GetProductGroup(std::size_t index) { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).get_or_append(index); }
+ProductGroup& InnerTaskData::AppendProductGroup() { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).append(); }
+void InnerTaskData::AppendProductGroup(ProductGroup* value) { std::unique_ptr<ProductGroup> owned(value); selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).append(std::move(owned)); }
+ProductGroup& InnerTaskData::InsertProductGroup(std::size_t index) { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).insert(index); }
+void InnerTaskData::InsertProductGroup(std::size_t index, ProductGroup* value) { std::unique_ptr<ProductGroup> owned(value); selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignProductGroup(std::size_t index, ProductGroup const& value) { selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).assign(index, value); }
+void InnerTaskData::AssignProductGroup(std::size_t index, ProductGroup* value) { std::unique_ptr<ProductGroup> owned(value); selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).assign(index, std::move(owned)); }
+ProductGroup& InnerTaskData::BackProductGroup() { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).back(); }
+void InnerTaskData::DeleteProductGroup(std::size_t index) { erase_at<ProductGroup>(m_held, {is_chosen(chosen, m_held, ProductGroupChosen), "chosen == ProductGroupChosen"}, index, "index < u.mProductGroup->size()"); }
+void InnerTaskData::ClearProductGroup() { selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).clear(); }
+std::size_t InnerTaskData::SizeProductGroup() const { return run_size<ProductGroup>(m_held, m_held.holds(ProductGroupChosen)); }
+
+void InnerTaskData::SelectTask() { selected_run<Task>(chosen, m_held, TaskChosen); }
+Task const& InnerTaskData::GetTask(std::size_t index) const { return run_at<Task>(m_held, {is_chosen(chosen, m_held, TaskChosen), "chosen == TaskChosen"}, index, "index < u.mTask->size()"); }
+Task& InnerTaskData::GetTask(std::size_t index) { return selected_run<Task>(chosen, m_held, TaskChosen).get_or_append(index); }
+Task& InnerTaskData::AppendTask() { return selected_run<Task>(chosen, m_held, TaskChosen).append(); }
+void InnerTaskData::AppendTask(Task* value) { std::unique_ptr<Task> owned(value); selected_run<Task>(chosen, m_held, TaskChosen).append(std::move(owned)); }
+Task& InnerTaskData::InsertTask(std::size_t index) { return selected_run<Task>(chosen, m_held, TaskChosen).insert(index); }
+void InnerTaskData::InsertTask(std::size_t index, Task* value) { std::unique_ptr<Task> owned(value); selected_run<Task>(chosen, m_held, TaskChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignTask(std::size_t index, Task const& value) { selected_run<Task>(chosen, m_held, TaskChosen).assign(index, value); }
+void InnerTaskData::AssignTask(std::size_t index, Task* value) { std::unique_ptr<Task> owned(value); selected_run<Task>(chosen, m_held, TaskChosen).assign(index, std::move(owned)); }
+Task& InnerTaskData::BackTask() { return selected_run<Task>(chosen, m_held, TaskChosen).back(); }
+void InnerTaskData::DeleteTask(std::size_t index) { erase_at<Task>(m_held, {is_chosen(chosen, m_held, TaskChosen), "chosen == TaskChosen"}, index, "index < u.mTask->size()"); }
+void InnerTaskData::ClearTask() { selected_run<Task>(chosen, m_held, TaskChosen).clear(); }
+std::size_t InnerTaskData::SizeTask() const { return run_size<Task>(m_held, m_held.holds(TaskChosen)); }
+
 void InnerTaskData::SelectTaskControllerCapabilities() { selected_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen); }
 TaskControllerCapabilities const& InnerTaskData::GetTaskControllerCapabilities() const { return chosen_one<TaskControllerCapabilities>(m_held, {is_chosen(chosen, m_held, TaskControllerCapabilitiesChosen), "chosen == TaskControllerCapabilitiesChosen"}); }
 TaskControllerCapabilities& InnerTaskData::GetTaskControllerCapabilities() { return selected_one<TaskControllerCapabilities>(chosen, m_held, TaskControllerCapabilitiesChosen).get_or_create(); }
+
+void InnerTaskData::SelectValuePresentation() { selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen); }
+ValuePresentation const& InnerTaskData::GetValuePresentation(std::size_t index) const { return run_at<ValuePresentation>(m_held, {is_chosen(chosen, m_held, ValuePresentationChosen), "chosen == ValuePresentationChosen"}, index, "index < u.mValuePresentation->size()"); }
+ValuePresentation& InnerTaskData::GetValuePresentation(std::size_t index) { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).get_or_append(index); }
+ValuePresentation& InnerTaskData::AppendValuePresentation() { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).append(); }
+void InnerTaskData::AppendValuePresentation(ValuePresentation* value) { std::unique_ptr<ValuePresentation> owned(value); selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).append(std::move(owned)); }
+ValuePresentation& InnerTaskData::InsertValuePresentation(std::size_t index) { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).insert(index); }
+void InnerTaskData::InsertValuePresentation(std::size_t index, ValuePresentation* value) { std::unique_ptr<ValuePresentation> owned(value); selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignValuePresentation(std::size_t index, ValuePresentation const& value) { selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).assign(index, value); }
+void InnerTaskData::AssignValuePresentation(std::size_t index, ValuePresentation* value) { std::unique_ptr<ValuePresentation> owned(value); selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).assign(index, std::move(owned)); }
+ValuePresentation& InnerTaskData::BackValuePresentation() { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).back(); }
+void InnerTaskData::DeleteValuePresentation(std::size_t index) { erase_at<ValuePresentation>(m_held, {is_chosen(chosen, m_held, ValuePresentationChosen), "chosen == ValuePresentationChosen"}, index, "index < u.mValuePresentation->size()"); }
+void InnerTaskData::ClearValuePresentation() { selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).clear(); }
+std::size_t InnerTaskData::SizeValuePresentation() const { return run_size<ValuePresentation>(m_held, m_held.holds(ValuePresentationChosen)); }
+
+void InnerTaskData::SelectWorker() { selected_run<Worker>(chosen, m_held, WorkerChosen); }
+Worker const& InnerTaskData::GetWorker(std::size_t index) const { return run_at<Worker>(m_held, {is_chosen(chosen, m_held, WorkerChosen), "chosen == WorkerChosen"}, index, "index < u.mWorker->size()"); }
+Worker& InnerTaskData::GetWorker(std::size_t index) { return selected_run<Worker>(chosen, m_held, WorkerChosen).get_or_append(index); }
+Worker& InnerTaskData::AppendWorker() { return selected_run<Worker>(chosen, m_held, WorkerChosen).append(); }
+void InnerTaskData::AppendWorker(Worker* value) { std::unique_ptr<Worker> owned(value); selected_run<Worker>(chosen, m_held, WorkerChosen).append(std::move(owned)); }
+Worker& InnerTaskData::InsertWorker(std::size_t index) { return selected_run<Worker>(chosen, m_held, WorkerChosen).insert(index); }
+void InnerTaskData::InsertWorker(std::size_t index, Worker* value) { std::unique_ptr<Worker> owned(value); selected_run<Worker>(chosen, m_held, WorkerChosen).insert(index, std::move(owned)); }
+void InnerTaskData::AssignWorker(std::size_t index, Worker const& value) { selected_run<Worker>(chosen, m_held, WorkerChosen).assign(index, value); }
+void InnerTaskData::AssignWorker(std::size_t index, Worker* value) { std::unique_ptr<Worker> owned(value); selected_run<Worker>(chosen, m_held, WorkerChosen).assign(index, std::move(owned)); }
+Worker& InnerTaskData::BackWorker() { return selected_run<Worker>(chosen, m_held, WorkerChosen).back(); }
+void InnerTaskData::DeleteWorker(std::size_t index) { erase_at<Worker>(m_held, {is_chosen(chosen, m_held, WorkerChosen), "chosen == WorkerChosen"}, index, "index < u.mWorker->size()"); }
+void InnerTaskData::ClearWorker() { selected_run<Worker>(chosen, m_held, WorkerChosen).clear(); }
+std::size_t InnerTaskData::SizeWorker() const { return run_size<Worker>(m_held, m_held.holds(WorkerChosen)); }
 
 void InnerTaskData::SelectExternalFileReference() { selected_run<ExternalFileReference>(chosen, m_held, ExternalFileReferenceChosen); }
 ExternalFileReference const& InnerTaskData::GetExternalFileReference(std::size_t index) const { return run_at<ExternalFileReference>(m_held, {is_chosen(chosen, m_held, ExternalFileReferenceChosen), "chosen == ExternalFileReferenceChosen"}, index, "index < u.mExternalFileReference->size()"); }
@@ -120,15 +414,49 @@ lmx::s_event_map const TaskData::attr_event_map[] = {
 };
 lmx::s_event_map const TaskData::elem_event_map[] = {
     {1, "P917_Metadata", 13, elem_P917Metadata},
+    {1, "P917_Questions", 14, elem_P917Questions},
     {1, "AFE", 3, elem_AttachedFile},
+    {1, "BSN", 3, elem_BaseStation},
+    {1, "CCT", 3, elem_CodedComment},
+    {1, "CCG", 3, elem_CodedCommentGroup},
+    {1, "CLD", 3, elem_ColourLegend},
+    {1, "CTP", 3, elem_CropType},
+    {1, "CPC", 3, elem_CulturalPractice},
+    {1, "CTR", 3, elem_Grower},
+    {1, "DVC", 3, elem_Device},
+    {1, "FRM", 3, elem_Farm},
+    {1, "OTQ", 3, elem_OperationTechnique},
+    {1, "PFD", 3, elem_Field},
+    {1, "PDT", 3, elem_Product},
+    {1, "PGP", 3, elem_ProductGroup},
+    {1, "TSK", 3, elem_Task},
     {1, "TCC", 3, elem_TaskControllerCapabilities},
+    {1, "VPN", 3, elem_ValuePresentation},
+    {1, "WKR", 3, elem_Worker},
     {1, "XFR", 3, elem_ExternalFileReference},
     {0, nullptr, 0, 0},
 };
 lmx::s_known_elements const TaskData::known_elements[] = {
     {1, "P917_Metadata", 13},
+    {1, "P917_Questions", 14},
     {1, "AFE", 3},
+    {1, "BSN", 3},
+    {1, "CCT", 3},
+    {1, "CCG", 3},
+    {1, "CLD", 3},
+    {1, "CTP", 3},
+    {1, "CPC", 3},
+    {1, "CTR", 3},
+    {1, "DVC", 3},
+    {1, "FRM", 3},
+    {1, "OTQ", 3},
+    {1, "PFD", 3},
+    {1, "PDT", 3},
+    {1, "PGP", 3},
+    {1, "TSK", 3},
     {1, "TCC", 3},
+    {1, "VPN", 3},
+    {1, "WKR", 3},
     {1, "XFR", 3},
     {0, nullptr, 0},
 };
@@ -195,21 +523,296 @@ void InnerExternalFileContent::reset() { InnerExternalFileContent empty; swap(em
 void InnerExternalFileContent::init() { chosen = NothingChosen; }
 
 lmx::s_event_map const InnerExternalFileContent::elem_event_map[] = {
+    {1, "BSN", 3, elem_BaseStation},
+    {1, "CCT", 3, elem_CodedComment},
+    {1, "CCG", 3, elem_CodedCommentGroup},
+    {1, "CLD", 3, elem_ColourLegend},
+    {1, "CTP", 3, elem_CropType},
+    {1, "CPC", 3, elem_CulturalPractice},
+    {1, "CTR", 3, elem_Grower},
+    {1, "DVC", 3, elem_Device},
+    {1, "FRM", 3, elem_Farm},
+    {1, "OTQ", 3, elem_OperationTechnique},
+    {1, "PFD", 3, elem_Field},
+    {1, "PDT", 3, elem_Product},
+    {1, "PGP", 3, elem_ProductGroup},
+    {1, "TSK", 3, elem_Task},
+    {1, "VPN", 3, elem_ValuePresentation},
+    {1, "WKR", 3, elem_Worker},
     {0, nullptr, 0, 0},
 };
 void InnerExternalFileContent::release_choice() { m_held.release(); chosen = NothingChosen; }
 bool InnerExternalFileContent::IsOccursOk(lmx::c_check_tracker*) const { return true; }
 bool InnerExternalFileContent::Check(lmx::c_check_tracker* tracker, char const* name) const {
   lmx::c_check_tracker link(tracker, name);
-  return IsOccursOk(&link);
-}
-bool InnerExternalFileContent::IsMember(lmx::xmlReader& reader) { return is_member(reader, elem_event_map); }
-bool InnerExternalFileContent::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* ) {
-  reader.tokenise(elem_event_map, lmx::EXAE_ELEMENT);
-  switch (reader.m_event) {
+  if (!IsOccursOk(&link)) return false;
+  switch (chosen) {
+    case BaseStationChosen: return m_held.check(&link, "BSN");
+    case CodedCommentChosen: return m_held.check(&link, "CCT");
+    case CodedCommentGroupChosen: return m_held.check(&link, "CCG");
+    case ColourLegendChosen: return m_held.check(&link, "CLD");
+    case CropTypeChosen: return m_held.check(&link, "CTP");
+    case CulturalPracticeChosen: return m_held.check(&link, "CPC");
+    case GrowerChosen: return m_held.check(&link, "CTR");
+    case DeviceChosen: return m_held.check(&link, "DVC");
+    case FarmChosen: return m_held.check(&link, "FRM");
+    case OperationTechniqueChosen: return m_held.check(&link, "OTQ");
+    case FieldChosen: return m_held.check(&link, "PFD");
+    case ProductChosen: return m_held.check(&link, "PDT");
+    case ProductGroupChosen: return m_held.check(&link, "PGP");
+    case TaskChosen: return m_held.check(&link, "TSK");
+    case ValuePresentationChosen: return m_held.check(&link, "VPN");
+    case WorkerChosen: return m_held.check(&link, "WKR");
   }
   return true;
 }
+bool InnerExternalFileContent::IsMember(lmx::xmlReader& reader) { return is_member(reader, elem_event_map); }
+bool InnerExternalFileContent::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
+  reader.tokenise(elem_event_map, lmx::EXAE_ELEMENT);
+  switch (reader.m_event) {
+    case elem_BaseStation: return read_run(reader, new_run<BaseStation>(chosen, m_held, BaseStationChosen), elem_BaseStation, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_CodedComment: return read_run(reader, new_run<CodedComment>(chosen, m_held, CodedCommentChosen), elem_CodedComment, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_CodedCommentGroup: return read_run(reader, new_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen), elem_CodedCommentGroup, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_ColourLegend: return read_run(reader, new_run<ColourLegend>(chosen, m_held, ColourLegendChosen), elem_ColourLegend, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_CropType: return read_run(reader, new_run<CropType>(chosen, m_held, CropTypeChosen), elem_CropType, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_CulturalPractice: return read_run(reader, new_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen), elem_CulturalPractice, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Grower: return read_run(reader, new_run<Grower>(chosen, m_held, GrowerChosen), elem_Grower, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Device: return read_run(reader, new_run<Device>(chosen, m_held, DeviceChosen), elem_Device, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Farm: return read_run(reader, new_run<Farm>(chosen, m_held, FarmChosen), elem_Farm, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_OperationTechnique: return read_run(reader, new_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen), elem_OperationTechnique, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Field: return read_run(reader, new_run<Field>(chosen, m_held, FieldChosen), elem_Field, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Product: return read_run(reader, new_run<Product>(chosen, m_held, ProductChosen), elem_Product, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_ProductGroup: return read_run(reader, new_run<ProductGroup>(chosen, m_held, ProductGroupChosen), elem_ProductGroup, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Task: return read_run(reader, new_run<Task>(chosen, m_held, TaskChosen), elem_Task, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_ValuePresentation: return read_run(reader, new_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen), elem_ValuePresentation, {elem_event_map, "XFC", __LINE__}, error);
+    case elem_Worker: return read_run(reader, new_run<Worker>(chosen, m_held, WorkerChosen), elem_Worker, {elem_event_map, "XFC", __LINE__}, error);
+  }
+  return true;
+}
+
+void InnerExternalFileContent::SelectBaseStation() { selected_run<BaseStation>(chosen, m_held, BaseStationChosen); }
+BaseStation const& InnerExternalFileContent::GetBaseStation(std::size_t index) const { return run_at<BaseStation>(m_held, {is_chosen(chosen, m_held, BaseStationChosen), "chosen == BaseStationChosen"}, index, "index < u.mBaseStation->size()"); }
+BaseStation& InnerExternalFileContent::GetBaseStation(std::size_t index) { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).get_or_append(index); }
+BaseStation& InnerExternalFileContent::AppendBaseStation() { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).append(); }
+void InnerExternalFileContent::AppendBaseStation(BaseStation* value) { std::unique_ptr<BaseStation> owned(value); selected_run<BaseStation>(chosen, m_held, BaseStationChosen).append(std::move(owned)); }
+BaseStation& InnerExternalFileContent::InsertBaseStation(std::size_t index) { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).insert(index); }
+void InnerExternalFileContent::InsertBaseStation(std::size_t index, BaseStation* value) { std::unique_ptr<BaseStation> owned(value); selected_run<BaseStation>(chosen, m_held, BaseStationChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignBaseStation(std::size_t index, BaseStation const& value) { selected_run<BaseStation>(chosen, m_held, BaseStationChosen).assign(index, value); }
+void InnerExternalFileContent::AssignBaseStation(std::size_t index, BaseStation* value) { std::unique_ptr<BaseStation> owned(value); selected_run<BaseStation>(chosen, m_held, BaseStationChosen).assign(index, std::move(owned)); }
+BaseStation& InnerExternalFileContent::BackBaseStation() { return selected_run<BaseStation>(chosen, m_held, BaseStationChosen).back(); }
+void InnerExternalFileContent::DeleteBaseStation(std::size_t index) { erase_at<BaseStation>(m_held, {is_chosen(chosen, m_held, BaseStationChosen), "chosen == BaseStationChosen"}, index, "index < u.mBaseStation->size()"); }
+void InnerExternalFileContent::ClearBaseStation() { selected_run<BaseStation>(chosen, m_held, BaseStationChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeBaseStation() const { return run_size<BaseStation>(m_held, m_held.holds(BaseStationChosen)); }
+
+void InnerExternalFileContent::SelectCodedComment() { selected_run<CodedComment>(chosen, m_held, CodedCommentChosen); }
+CodedComment const& InnerExternalFileContent::GetCodedComment(std::size_t index) const { return run_at<CodedComment>(m_held, {is_chosen(chosen, m_held, CodedCommentChosen), "chosen == CodedCommentChosen"}, index, "index < u.mCodedComment->size()"); }
+CodedComment& InnerExternalFileContent::GetCodedComment(std::size_t index) { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).get_or_append(index); }
+CodedComment& InnerExternalFileContent::AppendCodedComment() { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).append(); }
+void InnerExternalFileContent::AppendCodedComment(CodedComment* value) { std::unique_ptr<CodedComment> owned(value); selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).append(std::move(owned)); }
+CodedComment& InnerExternalFileContent::InsertCodedComment(std::size_t index) { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).insert(index); }
+void InnerExternalFileContent::InsertCodedComment(std::size_t index, CodedComment* value) { std::unique_ptr<CodedComment> owned(value); selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignCodedComment(std::size_t index, CodedComment const& value) { selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).assign(index, value); }
+void InnerExternalFileContent::AssignCodedComment(std::size_t index, CodedComment* value) { std::unique_ptr<CodedComment> owned(value); selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).assign(index, std::move(owned)); }
+CodedComment& InnerExternalFileContent::BackCodedComment() { return selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).back(); }
+void InnerExternalFileContent::DeleteCodedComment(std::size_t index) { erase_at<CodedComment>(m_held, {is_chosen(chosen, m_held, CodedCommentChosen), "chosen == CodedCommentChosen"}, index, "index < u.mCodedComment->size()"); }
+void InnerExternalFileContent::ClearCodedComment() { selected_run<CodedComment>(chosen, m_held, CodedCommentChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeCodedComment() const { return run_size<CodedComment>(m_held, m_held.holds(CodedCommentChosen)); }
+
+void InnerExternalFileContent::SelectCodedCommentGroup() { selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen); }
+CoddedCommentGroup const& InnerExternalFileContent::GetCodedCommentGroup(std::size_t index) const { return run_at<CoddedCommentGroup>(m_held, {is_chosen(chosen, m_held, CodedCommentGroupChosen), "chosen == CodedCommentGroupChosen"}, index, "index < u.mCodedCommentGroup->size()"); }
+CoddedCommentGroup& InnerExternalFileContent::GetCodedCommentGroup(std::size_t index) { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).get_or_append(index); }
+CoddedCommentGroup& InnerExternalFileContent::AppendCodedCommentGroup() { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).append(); }
+void InnerExternalFileContent::AppendCodedCommentGroup(CoddedCommentGroup* value) { std::unique_ptr<CoddedCommentGroup> owned(value); selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).append(std::move(owned)); }
+CoddedCommentGroup& InnerExternalFileContent::InsertCodedCommentGroup(std::size_t index) { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).insert(index); }
+void InnerExternalFileContent::InsertCodedCommentGroup(std::size_t index, CoddedCommentGroup* value) { std::unique_ptr<CoddedCommentGroup> owned(value); selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup const& value) { selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).assign(index, value); }
+void InnerExternalFileContent::AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup* value) { std::unique_ptr<CoddedCommentGroup> owned(value); selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).assign(index, std::move(owned)); }
+CoddedCommentGroup& InnerExternalFileContent::BackCodedCommentGroup() { return selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).back(); }
+void InnerExternalFileContent::DeleteCodedCommentGroup(std::size_t index) { erase_at<CoddedCommentGroup>(m_held, {is_chosen(chosen, m_held, CodedCommentGroupChosen), "chosen == CodedCommentGroupChosen"}, index, "index < u.mCodedCommentGroup->size()"); }
+void InnerExternalFileContent::ClearCodedCommentGroup() { selected_run<CoddedCommentGroup>(chosen, m_held, CodedCommentGroupChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeCodedCommentGroup() const { return run_size<CoddedCommentGroup>(m_held, m_held.holds(CodedCommentGroupChosen)); }
+
+void InnerExternalFileContent::SelectColourLegend() { selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen); }
+ColourLegend const& InnerExternalFileContent::GetColourLegend(std::size_t index) const { return run_at<ColourLegend>(m_held, {is_chosen(chosen, m_held, ColourLegendChosen), "chosen == ColourLegendChosen"}, index, "index < u.mColourLegend->size()"); }
+ColourLegend& InnerExternalFileContent::GetColourLegend(std::size_t index) { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).get_or_append(index); }
+ColourLegend& InnerExternalFileContent::AppendColourLegend() { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).append(); }
+void InnerExternalFileContent::AppendColourLegend(ColourLegend* value) { std::unique_ptr<ColourLegend> owned(value); selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).append(std::move(owned)); }
+ColourLegend& InnerExternalFileContent::InsertColourLegend(std::size_t index) { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).insert(index); }
+void InnerExternalFileContent::InsertColourLegend(std::size_t index, ColourLegend* value) { std::unique_ptr<ColourLegend> owned(value); selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignColourLegend(std::size_t index, ColourLegend const& value) { selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).assign(index, value); }
+void InnerExternalFileContent::AssignColourLegend(std::size_t index, ColourLegend* value) { std::unique_ptr<ColourLegend> owned(value); selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).assign(index, std::move(owned)); }
+ColourLegend& InnerExternalFileContent::BackColourLegend() { return selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).back(); }
+void InnerExternalFileContent::DeleteColourLegend(std::size_t index) { erase_at<ColourLegend>(m_held, {is_chosen(chosen, m_held, ColourLegendChosen), "chosen == ColourLegendChosen"}, index, "index < u.mColourLegend->size()"); }
+void InnerExternalFileContent::ClearColourLegend() { selected_run<ColourLegend>(chosen, m_held, ColourLegendChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeColourLegend() const { return run_size<ColourLegend>(m_held, m_held.holds(ColourLegendChosen)); }
+
+void InnerExternalFileContent::SelectCropType() { selected_run<CropType>(chosen, m_held, CropTypeChosen); }
+CropType const& InnerExternalFileContent::GetCropType(std::size_t index) const { return run_at<CropType>(m_held, {is_chosen(chosen, m_held, CropTypeChosen), "chosen == CropTypeChosen"}, index, "index < u.mCropType->size()"); }
+CropType& InnerExternalFileContent::GetCropType(std::size_t index) { return selected_run<CropType>(chosen, m_held, CropTypeChosen).get_or_append(index); }
+CropType& InnerExternalFileContent::AppendCropType() { return selected_run<CropType>(chosen, m_held, CropTypeChosen).append(); }
+void InnerExternalFileContent::AppendCropType(CropType* value) { std::unique_ptr<CropType> owned(value); selected_run<CropType>(chosen, m_held, CropTypeChosen).append(std::move(owned)); }
+CropType& InnerExternalFileContent::InsertCropType(std::size_t index) { return selected_run<CropType>(chosen, m_held, CropTypeChosen).insert(index); }
+void InnerExternalFileContent::InsertCropType(std::size_t index, CropType* value) { std::unique_ptr<CropType> owned(value); selected_run<CropType>(chosen, m_held, CropTypeChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignCropType(std::size_t index, CropType const& value) { selected_run<CropType>(chosen, m_held, CropTypeChosen).assign(index, value); }
+void InnerExternalFileContent::AssignCropType(std::size_t index, CropType* value) { std::unique_ptr<CropType> owned(value); selected_run<CropType>(chosen, m_held, CropTypeChosen).assign(index, std::move(owned)); }
+CropType& InnerExternalFileContent::BackCropType() { return selected_run<CropType>(chosen, m_held, CropTypeChosen).back(); }
+void InnerExternalFileContent::DeleteCropType(std::size_t index) { erase_at<CropType>(m_held, {is_chosen(chosen, m_held, CropTypeChosen), "chosen == CropTypeChosen"}, index, "index < u.mCropType->size()"); }
+void InnerExternalFileContent::ClearCropType() { selected_run<CropType>(chosen, m_held, CropTypeChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeCropType() const { return run_size<CropType>(m_held, m_held.holds(CropTypeChosen)); }
+
+void InnerExternalFileContent::SelectCulturalPractice() { selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen); }
+CulturalPractice const& InnerExternalFileContent::GetCulturalPractice(std::size_t index) const { return run_at<CulturalPractice>(m_held, {is_chosen(chosen, m_held, CulturalPracticeChosen), "chosen == CulturalPracticeChosen"}, index, "index < u.mCulturalPractice->size()"); }
+CulturalPractice& InnerExternalFileContent::GetCulturalPractice(std::size_t index) { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).get_or_append(index); }
+CulturalPractice& InnerExternalFileContent::AppendCulturalPractice() { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).append(); }
+void InnerExternalFileContent::AppendCulturalPractice(CulturalPractice* value) { std::unique_ptr<CulturalPractice> owned(value); selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).append(std::move(owned)); }
+CulturalPractice& InnerExternalFileContent::InsertCulturalPractice(std::size_t index) { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).insert(index); }
+void InnerExternalFileContent::InsertCulturalPractice(std::size_t index, CulturalPractice* value) { std::unique_ptr<CulturalPractice> owned(value); selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignCulturalPractice(std::size_t index, CulturalPractice const& value) { selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).assign(index, value); }
+void InnerExternalFileContent::AssignCulturalPractice(std::size_t index, CulturalPractice* value) { std::unique_ptr<CulturalPractice> owned(value); selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).assign(index, std::move(owned)); }
+CulturalPractice& InnerExternalFileContent::BackCulturalPractice() { return selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).back(); }
+void InnerExternalFileContent::DeleteCulturalPractice(std::size_t index) { erase_at<CulturalPractice>(m_held, {is_chosen(chosen, m_held, CulturalPracticeChosen), "chosen == CulturalPracticeChosen"}, index, "index < u.mCulturalPractice->size()"); }
+void InnerExternalFileContent::ClearCulturalPractice() { selected_run<CulturalPractice>(chosen, m_held, CulturalPracticeChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeCulturalPractice() const { return run_size<CulturalPractice>(m_held, m_held.holds(CulturalPracticeChosen)); }
+
+void InnerExternalFileContent::SelectGrower() { selected_run<Grower>(chosen, m_held, GrowerChosen); }
+Grower const& InnerExternalFileContent::GetGrower(std::size_t index) const { return run_at<Grower>(m_held, {is_chosen(chosen, m_held, GrowerChosen), "chosen == GrowerChosen"}, index, "index < u.mGrower->size()"); }
+Grower& InnerExternalFileContent::GetGrower(std::size_t index) { return selected_run<Grower>(chosen, m_held, GrowerChosen).get_or_append(index); }
+Grower& InnerExternalFileContent::AppendGrower() { return selected_run<Grower>(chosen, m_held, GrowerChosen).append(); }
+void InnerExternalFileContent::AppendGrower(Grower* value) { std::unique_ptr<Grower> owned(value); selected_run<Grower>(chosen, m_held, GrowerChosen).append(std::move(owned)); }
+Grower& InnerExternalFileContent::InsertGrower(std::size_t index) { return selected_run<Grower>(chosen, m_held, GrowerChosen).insert(index); }
+void InnerExternalFileContent::InsertGrower(std::size_t index, Grower* value) { std::unique_ptr<Grower> owned(value); selected_run<Grower>(chosen, m_held, GrowerChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignGrower(std::size_t index, Grower const& value) { selected_run<Grower>(chosen, m_held, GrowerChosen).assign(index, value); }
+void InnerExternalFileContent::AssignGrower(std::size_t index, Grower* value) { std::unique_ptr<Grower> owned(value); selected_run<Grower>(chosen, m_held, GrowerChosen).assign(index, std::move(owned)); }
+Grower& InnerExternalFileContent::BackGrower() { return selected_run<Grower>(chosen, m_held, GrowerChosen).back(); }
+void InnerExternalFileContent::DeleteGrower(std::size_t index) { erase_at<Grower>(m_held, {is_chosen(chosen, m_held, GrowerChosen), "chosen == GrowerChosen"}, index, "index < u.mGrower->size()"); }
+void InnerExternalFileContent::ClearGrower() { selected_run<Grower>(chosen, m_held, GrowerChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeGrower() const { return run_size<Grower>(m_held, m_held.holds(GrowerChosen)); }
+
+void InnerExternalFileContent::SelectDevice() { selected_run<Device>(chosen, m_held, DeviceChosen); }
+Device const& InnerExternalFileContent::GetDevice(std::size_t index) const { return run_at<Device>(m_held, {is_chosen(chosen, m_held, DeviceChosen), "chosen == DeviceChosen"}, index, "index < u.mDevice->size()"); }
+Device& InnerExternalFileContent::GetDevice(std::size_t index) { return selected_run<Device>(chosen, m_held, DeviceChosen).get_or_append(index); }
+Device& InnerExternalFileContent::AppendDevice() { return selected_run<Device>(chosen, m_held, DeviceChosen).append(); }
+void InnerExternalFileContent::AppendDevice(Device* value) { std::unique_ptr<Device> owned(value); selected_run<Device>(chosen, m_held, DeviceChosen).append(std::move(owned)); }
+Device& InnerExternalFileContent::InsertDevice(std::size_t index) { return selected_run<Device>(chosen, m_held, DeviceChosen).insert(index); }
+void InnerExternalFileContent::InsertDevice(std::size_t index, Device* value) { std::unique_ptr<Device> owned(value); selected_run<Device>(chosen, m_held, DeviceChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignDevice(std::size_t index, Device const& value) { selected_run<Device>(chosen, m_held, DeviceChosen).assign(index, value); }
+void InnerExternalFileContent::AssignDevice(std::size_t index, Device* value) { std::unique_ptr<Device> owned(value); selected_run<Device>(chosen, m_held, DeviceChosen).assign(index, std::move(owned)); }
+Device& InnerExternalFileContent::BackDevice() { return selected_run<Device>(chosen, m_held, DeviceChosen).back(); }
+void InnerExternalFileContent::DeleteDevice(std::size_t index) { erase_at<Device>(m_held, {is_chosen(chosen, m_held, DeviceChosen), "chosen == DeviceChosen"}, index, "index < u.mDevice->size()"); }
+void InnerExternalFileContent::ClearDevice() { selected_run<Device>(chosen, m_held, DeviceChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeDevice() const { return run_size<Device>(m_held, m_held.holds(DeviceChosen)); }
+
+void InnerExternalFileContent::SelectFarm() { selected_run<Farm>(chosen, m_held, FarmChosen); }
+Farm const& InnerExternalFileContent::GetFarm(std::size_t index) const { return run_at<Farm>(m_held, {is_chosen(chosen, m_held, FarmChosen), "chosen == FarmChosen"}, index, "index < u.mFarm->size()"); }
+Farm& InnerExternalFileContent::GetFarm(std::size_t index) { return selected_run<Farm>(chosen, m_held, FarmChosen).get_or_append(index); }
+Farm& InnerExternalFileContent::AppendFarm() { return selected_run<Farm>(chosen, m_held, FarmChosen).append(); }
+void InnerExternalFileContent::AppendFarm(Farm* value) { std::unique_ptr<Farm> owned(value); selected_run<Farm>(chosen, m_held, FarmChosen).append(std::move(owned)); }
+Farm& InnerExternalFileContent::InsertFarm(std::size_t index) { return selected_run<Farm>(chosen, m_held, FarmChosen).insert(index); }
+void InnerExternalFileContent::InsertFarm(std::size_t index, Farm* value) { std::unique_ptr<Farm> owned(value); selected_run<Farm>(chosen, m_held, FarmChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignFarm(std::size_t index, Farm const& value) { selected_run<Farm>(chosen, m_held, FarmChosen).assign(index, value); }
+void InnerExternalFileContent::AssignFarm(std::size_t index, Farm* value) { std::unique_ptr<Farm> owned(value); selected_run<Farm>(chosen, m_held, FarmChosen).assign(index, std::move(owned)); }
+Farm& InnerExternalFileContent::BackFarm() { return selected_run<Farm>(chosen, m_held, FarmChosen).back(); }
+void InnerExternalFileContent::DeleteFarm(std::size_t index) { erase_at<Farm>(m_held, {is_chosen(chosen, m_held, FarmChosen), "chosen == FarmChosen"}, index, "index < u.mFarm->size()"); }
+void InnerExternalFileContent::ClearFarm() { selected_run<Farm>(chosen, m_held, FarmChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeFarm() const { return run_size<Farm>(m_held, m_held.holds(FarmChosen)); }
+
+void InnerExternalFileContent::SelectOperationTechnique() { selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen); }
+OperationTechnique const& InnerExternalFileContent::GetOperationTechnique(std::size_t index) const { return run_at<OperationTechnique>(m_held, {is_chosen(chosen, m_held, OperationTechniqueChosen), "chosen == OperationTechniqueChosen"}, index, "index < u.mOperationTechnique->size()"); }
+OperationTechnique& InnerExternalFileContent::GetOperationTechnique(std::size_t index) { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).get_or_append(index); }
+OperationTechnique& InnerExternalFileContent::AppendOperationTechnique() { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).append(); }
+void InnerExternalFileContent::AppendOperationTechnique(OperationTechnique* value) { std::unique_ptr<OperationTechnique> owned(value); selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).append(std::move(owned)); }
+OperationTechnique& InnerExternalFileContent::InsertOperationTechnique(std::size_t index) { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).insert(index); }
+void InnerExternalFileContent::InsertOperationTechnique(std::size_t index, OperationTechnique* value) { std::unique_ptr<OperationTechnique> owned(value); selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignOperationTechnique(std::size_t index, OperationTechnique const& value) { selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).assign(index, value); }
+void InnerExternalFileContent::AssignOperationTechnique(std::size_t index, OperationTechnique* value) { std::unique_ptr<OperationTechnique> owned(value); selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).assign(index, std::move(owned)); }
+OperationTechnique& InnerExternalFileContent::BackOperationTechnique() { return selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).back(); }
+void InnerExternalFileContent::DeleteOperationTechnique(std::size_t index) { erase_at<OperationTechnique>(m_held, {is_chosen(chosen, m_held, OperationTechniqueChosen), "chosen == OperationTechniqueChosen"}, index, "index < u.mOperationTechnique->size()"); }
+void InnerExternalFileContent::ClearOperationTechnique() { selected_run<OperationTechnique>(chosen, m_held, OperationTechniqueChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeOperationTechnique() const { return run_size<OperationTechnique>(m_held, m_held.holds(OperationTechniqueChosen)); }
+
+void InnerExternalFileContent::SelectField() { selected_run<Field>(chosen, m_held, FieldChosen); }
+Field const& InnerExternalFileContent::GetField(std::size_t index) const { return run_at<Field>(m_held, {is_chosen(chosen, m_held, FieldChosen), "chosen == FieldChosen"}, index, "index < u.mField->size()"); }
+Field& InnerExternalFileContent::GetField(std::size_t index) { return selected_run<Field>(chosen, m_held, FieldChosen).get_or_append(index); }
+Field& InnerExternalFileContent::AppendField() { return selected_run<Field>(chosen, m_held, FieldChosen).append(); }
+void InnerExternalFileContent::AppendField(Field* value) { std::unique_ptr<Field> owned(value); selected_run<Field>(chosen, m_held, FieldChosen).append(std::move(owned)); }
+Field& InnerExternalFileContent::InsertField(std::size_t index) { return selected_run<Field>(chosen, m_held, FieldChosen).insert(index); }
+void InnerExternalFileContent::InsertField(std::size_t index, Field* value) { std::unique_ptr<Field> owned(value); selected_run<Field>(chosen, m_held, FieldChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignField(std::size_t index, Field const& value) { selected_run<Field>(chosen, m_held, FieldChosen).assign(index, value); }
+void InnerExternalFileContent::AssignField(std::size_t index, Field* value) { std::unique_ptr<Field> owned(value); selected_run<Field>(chosen, m_held, FieldChosen).assign(index, std::move(owned)); }
+Field& InnerExternalFileContent::BackField() { return selected_run<Field>(chosen, m_held, FieldChosen).back(); }
+void InnerExternalFileContent::DeleteField(std::size_t index) { erase_at<Field>(m_held, {is_chosen(chosen, m_held, FieldChosen), "chosen == FieldChosen"}, index, "index < u.mField->size()"); }
+void InnerExternalFileContent::ClearField() { selected_run<Field>(chosen, m_held, FieldChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeField() const { return run_size<Field>(m_held, m_held.holds(FieldChosen)); }
+
+void InnerExternalFileContent::SelectProduct() { selected_run<Product>(chosen, m_held, ProductChosen); }
+Product const& InnerExternalFileContent::GetProduct(std::size_t index) const { return run_at<Product>(m_held, {is_chosen(chosen, m_held, ProductChosen), "chosen == ProductChosen"}, index, "index < u.mProduct->size()"); }
+Product& InnerExternalFileContent::GetProduct(std::size_t index) { return selected_run<Product>(chosen, m_held, ProductChosen).get_or_append(index); }
+Product& InnerExternalFileContent::AppendProduct() { return selected_run<Product>(chosen, m_held, ProductChosen).append(); }
+void InnerExternalFileContent::AppendProduct(Product* value) { std::unique_ptr<Product> owned(value); selected_run<Product>(chosen, m_held, ProductChosen).append(std::move(owned)); }
+Product& InnerExternalFileContent::InsertProduct(std::size_t index) { return selected_run<Product>(chosen, m_held, ProductChosen).insert(index); }
+void InnerExternalFileContent::InsertProduct(std::size_t index, Product* value) { std::unique_ptr<Product> owned(value); selected_run<Product>(chosen, m_held, ProductChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignProduct(std::size_t index, Product const& value) { selected_run<Product>(chosen, m_held, ProductChosen).assign(index, value); }
+void InnerExternalFileContent::AssignProduct(std::size_t index, Product* value) { std::unique_ptr<Product> owned(value); selected_run<Product>(chosen, m_held, ProductChosen).assign(index, std::move(owned)); }
+Product& InnerExternalFileContent::BackProduct() { return selected_run<Product>(chosen, m_held, ProductChosen).back(); }
+void InnerExternalFileContent::DeleteProduct(std::size_t index) { erase_at<Product>(m_held, {is_chosen(chosen, m_held, ProductChosen), "chosen == ProductChosen"}, index, "index < u.mProduct->size()"); }
+void InnerExternalFileContent::ClearProduct() { selected_run<Product>(chosen, m_held, ProductChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeProduct() const { return run_size<Product>(m_held, m_held.holds(ProductChosen)); }
+
+void InnerExternalFileContent::SelectProductGroup() { selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen); }
+ProductGroup const& InnerExternalFileContent::GetProductGroup(std::size_t index) const { return run_at<ProductGroup>(m_held, {is_chosen(chosen, m_held, ProductGroupChosen), "chosen == ProductGroupChosen"}, index, "index < u.mProductGroup->size()"); }
+ProductGroup& InnerExternalFileContent::GetProductGroup(std::size_t index) { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).get_or_append(index); }
+ProductGroup& InnerExternalFileContent::AppendProductGroup() { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).append(); }
+void InnerExternalFileContent::AppendProductGroup(ProductGroup* value) { std::unique_ptr<ProductGroup> owned(value); selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).append(std::move(owned)); }
+ProductGroup& InnerExternalFileContent::InsertProductGroup(std::size_t index) { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).insert(index); }
+void InnerExternalFileContent::InsertProductGroup(std::size_t index, ProductGroup* value) { std::unique_ptr<ProductGroup> owned(value); selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignProductGroup(std::size_t index, ProductGroup const& value) { selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).assign(index, value); }
+void InnerExternalFileContent::AssignProductGroup(std::size_t index, ProductGroup* value) { std::unique_ptr<ProductGroup> owned(value); selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).assign(index, std::move(owned)); }
+ProductGroup& InnerExternalFileContent::BackProductGroup() { return selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).back(); }
+void InnerExternalFileContent::DeleteProductGroup(std::size_t index) { erase_at<ProductGroup>(m_held, {is_chosen(chosen, m_held, ProductGroupChosen), "chosen == ProductGroupChosen"}, index, "index < u.mProductGroup->size()"); }
+void InnerExternalFileContent::ClearProductGroup() { selected_run<ProductGroup>(chosen, m_held, ProductGroupChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeProductGroup() const { return run_size<ProductGroup>(m_held, m_held.holds(ProductGroupChosen)); }
+
+void InnerExternalFileContent::SelectTask() { selected_run<Task>(chosen, m_held, TaskChosen); }
+Task const& InnerExternalFileContent::GetTask(std::size_t index) const { return run_at<Task>(m_held, {is_chosen(chosen, m_held, TaskChosen), "chosen == TaskChosen"}, index, "index < u.mTask->size()"); }
+Task& InnerExternalFileContent::GetTask(std::size_t index) { return selected_run<Task>(chosen, m_held, TaskChosen).get_or_append(index); }
+Task& InnerExternalFileContent::AppendTask() { return selected_run<Task>(chosen, m_held, TaskChosen).append(); }
+void InnerExternalFileContent::AppendTask(Task* value) { std::unique_ptr<Task> owned(value); selected_run<Task>(chosen, m_held, TaskChosen).append(std::move(owned)); }
+Task& InnerExternalFileContent::InsertTask(std::size_t index) { return selected_run<Task>(chosen, m_held, TaskChosen).insert(index); }
+void InnerExternalFileContent::InsertTask(std::size_t index, Task* value) { std::unique_ptr<Task> owned(value); selected_run<Task>(chosen, m_held, TaskChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignTask(std::size_t index, Task const& value) { selected_run<Task>(chosen, m_held, TaskChosen).assign(index, value); }
+void InnerExternalFileContent::AssignTask(std::size_t index, Task* value) { std::unique_ptr<Task> owned(value); selected_run<Task>(chosen, m_held, TaskChosen).assign(index, std::move(owned)); }
+Task& InnerExternalFileContent::BackTask() { return selected_run<Task>(chosen, m_held, TaskChosen).back(); }
+void InnerExternalFileContent::DeleteTask(std::size_t index) { erase_at<Task>(m_held, {is_chosen(chosen, m_held, TaskChosen), "chosen == TaskChosen"}, index, "index < u.mTask->size()"); }
+void InnerExternalFileContent::ClearTask() { selected_run<Task>(chosen, m_held, TaskChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeTask() const { return run_size<Task>(m_held, m_held.holds(TaskChosen)); }
+
+void InnerExternalFileContent::SelectValuePresentation() { selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen); }
+ValuePresentation const& InnerExternalFileContent::GetValuePresentation(std::size_t index) const { return run_at<ValuePresentation>(m_held, {is_chosen(chosen, m_held, ValuePresentationChosen), "chosen == ValuePresentationChosen"}, index, "index < u.mValuePresentation->size()"); }
+ValuePresentation& InnerExternalFileContent::GetValuePresentation(std::size_t index) { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).get_or_append(index); }
+ValuePresentation& InnerExternalFileContent::AppendValuePresentation() { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).append(); }
+void InnerExternalFileContent::AppendValuePresentation(ValuePresentation* value) { std::unique_ptr<ValuePresentation> owned(value); selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).append(std::move(owned)); }
+ValuePresentation& InnerExternalFileContent::InsertValuePresentation(std::size_t index) { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).insert(index); }
+void InnerExternalFileContent::InsertValuePresentation(std::size_t index, ValuePresentation* value) { std::unique_ptr<ValuePresentation> owned(value); selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignValuePresentation(std::size_t index, ValuePresentation const& value) { selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).assign(index, value); }
+void InnerExternalFileContent::AssignValuePresentation(std::size_t index, ValuePresentation* value) { std::unique_ptr<ValuePresentation> owned(value); selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).assign(index, std::move(owned)); }
+ValuePresentation& InnerExternalFileContent::BackValuePresentation() { return selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).back(); }
+void InnerExternalFileContent::DeleteValuePresentation(std::size_t index) { erase_at<ValuePresentation>(m_held, {is_chosen(chosen, m_held, ValuePresentationChosen), "chosen == ValuePresentationChosen"}, index, "index < u.mValuePresentation->size()"); }
+void InnerExternalFileContent::ClearValuePresentation() { selected_run<ValuePresentation>(chosen, m_held, ValuePresentationChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeValuePresentation() const { return run_size<ValuePresentation>(m_held, m_held.holds(ValuePresentationChosen)); }
+
+void InnerExternalFileContent::SelectWorker() { selected_run<Worker>(chosen, m_held, WorkerChosen); }
+Worker const& InnerExternalFileContent::GetWorker(std::size_t index) const { return run_at<Worker>(m_held, {is_chosen(chosen, m_held, WorkerChosen), "chosen == WorkerChosen"}, index, "index < u.mWorker->size()"); }
+Worker& InnerExternalFileContent::GetWorker(std::size_t index) { return selected_run<Worker>(chosen, m_held, WorkerChosen).get_or_append(index); }
+Worker& InnerExternalFileContent::AppendWorker() { return selected_run<Worker>(chosen, m_held, WorkerChosen).append(); }
+void InnerExternalFileContent::AppendWorker(Worker* value) { std::unique_ptr<Worker> owned(value); selected_run<Worker>(chosen, m_held, WorkerChosen).append(std::move(owned)); }
+Worker& InnerExternalFileContent::InsertWorker(std::size_t index) { return selected_run<Worker>(chosen, m_held, WorkerChosen).insert(index); }
+void InnerExternalFileContent::InsertWorker(std::size_t index, Worker* value) { std::unique_ptr<Worker> owned(value); selected_run<Worker>(chosen, m_held, WorkerChosen).insert(index, std::move(owned)); }
+void InnerExternalFileContent::AssignWorker(std::size_t index, Worker const& value) { selected_run<Worker>(chosen, m_held, WorkerChosen).assign(index, value); }
+void InnerExternalFileContent::AssignWorker(std::size_t index, Worker* value) { std::unique_ptr<Worker> owned(value); selected_run<Worker>(chosen, m_held, WorkerChosen).assign(index, std::move(owned)); }
+Worker& InnerExternalFileContent::BackWorker() { return selected_run<Worker>(chosen, m_held, WorkerChosen).back(); }
+void InnerExternalFileContent::DeleteWorker(std::size_t index) { erase_at<Worker>(m_held, {is_chosen(chosen, m_held, WorkerChosen), "chosen == WorkerChosen"}, index, "index < u.mWorker->size()"); }
+void InnerExternalFileContent::ClearWorker() { selected_run<Worker>(chosen, m_held, WorkerChosen).clear(); }
+std::size_t InnerExternalFileContent::SizeWorker() const { return run_size<Worker>(m_held, m_held.holds(WorkerChosen)); }
 
 ExternalFileContent::ExternalFileContent() { init(); }
 ExternalFileContent::ExternalFileContent(ExternalFileContent const& other) = default;
@@ -227,9 +830,41 @@ lmx::s_event_map const ExternalFileContent::attr_event_map[] = {
     {0, nullptr, 0, 0},
 };
 lmx::s_event_map const ExternalFileContent::elem_event_map[] = {
+    {1, "BSN", 3, elem_BaseStation},
+    {1, "CCT", 3, elem_CodedComment},
+    {1, "CCG", 3, elem_CodedCommentGroup},
+    {1, "CLD", 3, elem_ColourLegend},
+    {1, "CTP", 3, elem_CropType},
+    {1, "CPC", 3, elem_CulturalPractice},
+    {1, "CTR", 3, elem_Grower},
+    {1, "DVC", 3, elem_Device},
+    {1, "FRM", 3, elem_Farm},
+    {1, "OTQ", 3, elem_OperationTechnique},
+    {1, "PFD", 3, elem_Field},
+    {1, "PDT", 3, elem_Product},
+    {1, "PGP", 3, elem_ProductGroup},
+    {1, "TSK", 3, elem_Task},
+    {1, "VPN", 3, elem_ValuePresentation},
+    {1, "WKR", 3, elem_Worker},
     {0, nullptr, 0, 0},
 };
 lmx::s_known_elements const ExternalFileContent::known_elements[] = {
+    {1, "BSN", 3},
+    {1, "CCT", 3},
+    {1, "CCG", 3},
+    {1, "CLD", 3},
+    {1, "CTP", 3},
+    {1, "CPC", 3},
+    {1, "CTR", 3},
+    {1, "DVC", 3},
+    {1, "FRM", 3},
+    {1, "OTQ", 3},
+    {1, "PFD", 3},
+    {1, "PDT", 3},
+    {1, "PGP", 3},
+    {1, "TSK", 3},
+    {1, "VPN", 3},
+    {1, "WKR", 3},
     {0, nullptr, 0},
 };
 lmx::elmx_error ExternalFileContent::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "XFC", __LINE__); }

@@ -23,8 +23,25 @@ class ISOXML_API InnerTaskData {
   /// The alternatives' numbers; `chosen` is one of them.
   enum : std::int32_t {
     P917MetadataChosen = 0,
+    P917QuestionsChosen = 1,
     AttachedFileChosen = 2,
+    BaseStationChosen = 3,
+    CodedCommentChosen = 4,
+    CodedCommentGroupChosen = 5,
+    ColourLegendChosen = 6,
+    CropTypeChosen = 7,
+    CulturalPracticeChosen = 8,
+    GrowerChosen = 9,
+    DeviceChosen = 10,
+    FarmChosen = 11,
+    OperationTechniqueChosen = 12,
+    FieldChosen = 13,
+    ProductChosen = 14,
+    ProductGroupChosen = 15,
+    TaskChosen = 16,
     TaskControllerCapabilitiesChosen = 17,
+    ValuePresentationChosen = 18,
+    WorkerChosen = 19,
     ExternalFileReferenceChosen = 20,
     NothingChosen = 21,
   };
@@ -60,6 +77,23 @@ class ISOXML_API InnerTaskData {
   P917Metadata const& GetP917Metadata() const;
   P917Metadata& GetP917Metadata();
 
+  /// Makes `P917Questions` the alternative held, with an empty run; no effect when it is already.
+  void SelectP917Questions();
+  /// The run of "P917_Questions". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  P917Questions const& GetP917Questions(std::size_t index) const;
+  P917Questions& GetP917Questions(std::size_t index);
+  P917Questions& AppendP917Questions();
+  void AppendP917Questions(P917Questions* value);
+  P917Questions& InsertP917Questions(std::size_t index);
+  void InsertP917Questions(std::size_t index, P917Questions* value);
+  void AssignP917Questions(std::size_t index, P917Questions const& value);
+  void AssignP917Questions(std::size_t index, P917Questions* value);
+  P917Questions& BackP917Questions();
+  void DeleteP917Questions(std::size_t index);
+  void ClearP917Questions();
+  std::size_t SizeP917Questions() const;
+
   /// Makes `AttachedFile` the alternative held, with an empty run; no effect when it is already.
   void SelectAttachedFile();
   /// The run of "AFE". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
@@ -77,12 +111,284 @@ class ISOXML_API InnerTaskData {
   void ClearAttachedFile();
   std::size_t SizeAttachedFile() const;
 
+  /// Makes `BaseStation` the alternative held, with an empty run; no effect when it is already.
+  void SelectBaseStation();
+  /// The run of "BSN". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  BaseStation const& GetBaseStation(std::size_t index) const;
+  BaseStation& GetBaseStation(std::size_t index);
+  BaseStation& AppendBaseStation();
+  void AppendBaseStation(BaseStation* value);
+  BaseStation& InsertBaseStation(std::size_t index);
+  void InsertBaseStation(std::size_t index, BaseStation* value);
+  void AssignBaseStation(std::size_t index, BaseStation const& value);
+  void AssignBaseStation(std::size_t index, BaseStation* value);
+  BaseStation& BackBaseStation();
+  void DeleteBaseStation(std::size_t index);
+  void ClearBaseStation();
+  std::size_t SizeBaseStation() const;
+
+  /// Makes `CodedComment` the alternative held, with an empty run; no effect when it is already.
+  void SelectCodedComment();
+  /// The run of "CCT". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CodedComment const& GetCodedComment(std::size_t index) const;
+  CodedComment& GetCodedComment(std::size_t index);
+  CodedComment& AppendCodedComment();
+  void AppendCodedComment(CodedComment* value);
+  CodedComment& InsertCodedComment(std::size_t index);
+  void InsertCodedComment(std::size_t index, CodedComment* value);
+  void AssignCodedComment(std::size_t index, CodedComment const& value);
+  void AssignCodedComment(std::size_t index, CodedComment* value);
+  CodedComment& BackCodedComment();
+  void DeleteCodedComment(std::size_t index);
+  void ClearCodedComment();
+  std::size_t SizeCodedComment() const;
+
+  /// Makes `CodedCommentGroup` the alternative held, with an empty run; no effect when it is already.
+  void SelectCodedCommentGroup();
+  /// The run of "CCG". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CoddedCommentGroup const& GetCodedCommentGroup(std::size_t index) const;
+  CoddedCommentGroup& GetCodedCommentGroup(std::size_t index);
+  CoddedCommentGroup& AppendCodedCommentGroup();
+  void AppendCodedCommentGroup(CoddedCommentGroup* value);
+  CoddedCommentGroup& InsertCodedCommentGroup(std::size_t index);
+  void InsertCodedCommentGroup(std::size_t index, CoddedCommentGroup* value);
+  void AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup const& value);
+  void AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup* value);
+  CoddedCommentGroup& BackCodedCommentGroup();
+  void DeleteCodedCommentGroup(std::size_t index);
+  void ClearCodedCommentGroup();
+  std::size_t SizeCodedCommentGroup() const;
+
+  /// Makes `ColourLegend` the alternative held, with an empty run; no effect when it is already.
+  void SelectColourLegend();
+  /// The run of "CLD". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  ColourLegend const& GetColourLegend(std::size_t index) const;
+  ColourLegend& GetColourLegend(std::size_t index);
+  ColourLegend& AppendColourLegend();
+  void AppendColourLegend(ColourLegend* value);
+  ColourLegend& InsertColourLegend(std::size_t index);
+  void InsertColourLegend(std::size_t index, ColourLegend* value);
+  void AssignColourLegend(std::size_t index, ColourLegend const& value);
+  void AssignColourLegend(std::size_t index, ColourLegend* value);
+  ColourLegend& BackColourLegend();
+  void DeleteColourLegend(std::size_t index);
+  void ClearColourLegend();
+  std::size_t SizeColourLegend() const;
+
+  /// Makes `CropType` the alternative held, with an empty run; no effect when it is already.
+  void SelectCropType();
+  /// The run of "CTP". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CropType const& GetCropType(std::size_t index) const;
+  CropType& GetCropType(std::size_t index);
+  CropType& AppendCropType();
+  void AppendCropType(CropType* value);
+  CropType& InsertCropType(std::size_t index);
+  void InsertCropType(std::size_t index, CropType* value);
+  void AssignCropType(std::size_t index, CropType const& value);
+  void AssignCropType(std::size_t index, CropType* value);
+  CropType& BackCropType();
+  void DeleteCropType(std::size_t index);
+  void ClearCropType();
+  std::size_t SizeCropType() const;
+
+  /// Makes `CulturalPractice` the alternative held, with an empty run; no effect when it is already.
+  void SelectCulturalPractice();
+  /// The run of "CPC". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CulturalPractice const& GetCulturalPractice(std::size_t index) const;
+  CulturalPractice& GetCulturalPractice(std::size_t index);
+  CulturalPractice& AppendCulturalPractice();
+  void AppendCulturalPractice(CulturalPractice* value);
+  CulturalPractice& InsertCulturalPractice(std::size_t index);
+  void InsertCulturalPractice(std::size_t index, CulturalPractice* value);
+  void AssignCulturalPractice(std::size_t index, CulturalPractice const& value);
+  void AssignCulturalPractice(std::size_t index, CulturalPractice* value);
+  CulturalPractice& BackCulturalPractice();
+  void DeleteCulturalPractice(std::size_t index);
+  void ClearCulturalPractice();
+  std::size_t SizeCulturalPractice() const;
+
+  /// Makes `Grower` the alternative held, with an empty run; no effect when it is already.
+  void SelectGrower();
+  /// The run of "CTR". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Grower const& GetGrower(std::size_t index) const;
+  Grower& GetGrower(std::size_t index);
+  Grower& AppendGrower();
+  void AppendGrower(Grower* value);
+  Grower& InsertGrower(std::size_t index);
+  void InsertGrower(std::size_t index, Grower* value);
+  void AssignGrower(std::size_t index, Grower const& value);
+  void AssignGrower(std::size_t index, Grower* value);
+  Grower& BackGrower();
+  void DeleteGrower(std::size_t index);
+  void ClearGrower();
+  std::size_t SizeGrower() const;
+
+  /// Makes `Device` the alternative held, with an empty run; no effect when it is already.
+  void SelectDevice();
+  /// The run of "DVC". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Device const& GetDevice(std::size_t index) const;
+  Device& GetDevice(std::size_t index);
+  Device& AppendDevice();
+  void AppendDevice(Device* value);
+  Device& InsertDevice(std::size_t index);
+  void InsertDevice(std::size_t index, Device* value);
+  void AssignDevice(std::size_t index, Device const& value);
+  void AssignDevice(std::size_t index, Device* value);
+  Device& BackDevice();
+  void DeleteDevice(std::size_t index);
+  void ClearDevice();
+  std::size_t SizeDevice() const;
+
+  /// Makes `Farm` the alternative held, with an empty run; no effect when it is already.
+  void SelectFarm();
+  /// The run of "FRM". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Farm const& GetFarm(std::size_t index) const;
+  Farm& GetFarm(std::size_t index);
+  Farm& AppendFarm();
+  void AppendFarm(Farm* value);
+  Farm& InsertFarm(std::size_t index);
+  void InsertFarm(std::size_t index, Farm* value);
+  void AssignFarm(std::size_t index, Farm const& value);
+  void AssignFarm(std::size_t index, Farm* value);
+  Farm& BackFarm();
+  void DeleteFarm(std::size_t index);
+  void ClearFarm();
+  std::size_t SizeFarm() const;
+
+  /// Makes `OperationTechnique` the alternative held, with an empty run; no effect when it is already.
+  void SelectOperationTechnique();
+  /// The run of "OTQ". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  OperationTechnique const& GetOperationTechnique(std::size_t index) const;
+  OperationTechnique& GetOperationTechnique(std::size_t index);
+  OperationTechnique& AppendOperationTechnique();
+  void AppendOperationTechnique(OperationTechnique* value);
+  OperationTechnique& InsertOperationTechnique(std::size_t index);
+  void InsertOperationTechnique(std::size_t index, OperationTechnique* value);
+  void AssignOperationTechnique(std::size_t index, OperationTechnique const& value);
+  void AssignOperationTechnique(std::size_t index, OperationTechnique* value);
+  OperationTechnique& BackOperationTechnique();
+  void DeleteOperationTechnique(std::size_t index);
+  void ClearOperationTechnique();
+  std::size_t SizeOperationTechnique() const;
+
+  /// Makes `Field` the alternative held, with an empty run; no effect when it is already.
+  void SelectField();
+  /// The run of "PFD". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Field const& GetField(std::size_t index) const;
+  Field& GetField(std::size_t index);
+  Field& AppendField();
+  void AppendField(Field* value);
+  Field& InsertField(std::size_t index);
+  void InsertField(std::size_t index, Field* value);
+  void AssignField(std::size_t index, Field const& value);
+  void AssignField(std::size_t index, Field* value);
+  Field& BackField();
+  void DeleteField(std::size_t index);
+  void ClearField();
+  std::size_t SizeField() const;
+
+  /// Makes `Product` the alternative held, with an empty run; no effect when it is already.
+  void SelectProduct();
+  /// The run of "PDT". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Product const& GetProduct(std::size_t index) const;
+  Product& GetProduct(std::size_t index);
+  Product& AppendProduct();
+  void AppendProduct(Product* value);
+  Product& InsertProduct(std::size_t index);
+  void InsertProduct(std::size_t index, Product* value);
+  void AssignProduct(std::size_t index, Product const& value);
+  void AssignProduct(std::size_t index, Product* value);
+  Product& BackProduct();
+  void DeleteProduct(std::size_t index);
+  void ClearProduct();
+  std::size_t SizeProduct() const;
+
+  /// Makes `ProductGroup` the alternative held, with an empty run; no effect when it is already.
+  void SelectProductGroup();
+  /// The run of "PGP". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  ProductGroup const& GetProductGroup(std::size_t index) const;
+  ProductGroup& GetProductGroup(std::size_t index);
+  ProductGroup& AppendProductGroup();
+  void AppendProductGroup(ProductGroup* value);
+  ProductGroup& InsertProductGroup(std::size_t index);
+  void InsertProductGroup(std::size_t index, ProductGroup* value);
+  void AssignProductGroup(std::size_t index, ProductGroup const& value);
+  void AssignProductGroup(std::size_t index, ProductGroup* value);
+  ProductGroup& BackProductGroup();
+  void DeleteProductGroup(std::size_t index);
+  void ClearProductGroup();
+  std::size_t SizeProductGroup() const;
+
+  /// Makes `Task` the alternative held, with an empty run; no effect when it is already.
+  void SelectTask();
+  /// The run of "TSK". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Task const& GetTask(std::size_t index) const;
+  Task& GetTask(std::size_t index);
+  Task& AppendTask();
+  void AppendTask(Task* value);
+  Task& InsertTask(std::size_t index);
+  void InsertTask(std::size_t index, Task* value);
+  void AssignTask(std::size_t index, Task const& value);
+  void AssignTask(std::size_t index, Task* value);
+  Task& BackTask();
+  void DeleteTask(std::size_t index);
+  void ClearTask();
+  std::size_t SizeTask() const;
+
   /// Makes `TaskControllerCapabilities` the alternative held, with no object yet; no effect when it is already.
   void SelectTaskControllerCapabilities();
   /// The "TCC". The const form stops the process unless it is chosen and there; the
   /// other selects and creates it.
   TaskControllerCapabilities const& GetTaskControllerCapabilities() const;
   TaskControllerCapabilities& GetTaskControllerCapabilities();
+
+  /// Makes `ValuePresentation` the alternative held, with an empty run; no effect when it is already.
+  void SelectValuePresentation();
+  /// The run of "VPN". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  ValuePresentation const& GetValuePresentation(std::size_t index) const;
+  ValuePresentation& GetValuePresentation(std::size_t index);
+  ValuePresentation& AppendValuePresentation();
+  void AppendValuePresentation(ValuePresentation* value);
+  ValuePresentation& InsertValuePresentation(std::size_t index);
+  void InsertValuePresentation(std::size_t index, ValuePresentation* value);
+  void AssignValuePresentation(std::size_t index, ValuePresentation const& value);
+  void AssignValuePresentation(std::size_t index, ValuePresentation* value);
+  ValuePresentation& BackValuePresentation();
+  void DeleteValuePresentation(std::size_t index);
+  void ClearValuePresentation();
+  std::size_t SizeValuePresentation() const;
+
+  /// Makes `Worker` the alternative held, with an empty run; no effect when it is already.
+  void SelectWorker();
+  /// The run of "WKR". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Worker const& GetWorker(std::size_t index) const;
+  Worker& GetWorker(std::size_t index);
+  Worker& AppendWorker();
+  void AppendWorker(Worker* value);
+  Worker& InsertWorker(std::size_t index);
+  void InsertWorker(std::size_t index, Worker* value);
+  void AssignWorker(std::size_t index, Worker const& value);
+  void AssignWorker(std::size_t index, Worker* value);
+  Worker& BackWorker();
+  void DeleteWorker(std::size_t index);
+  void ClearWorker();
+  std::size_t SizeWorker() const;
 
   /// Makes `ExternalFileReference` the alternative held, with an empty run; no effect when it is already.
   void SelectExternalFileReference();
@@ -236,6 +542,22 @@ class ISOXML_API InnerExternalFileContent {
  public:
   /// The alternatives' numbers; `chosen` is one of them.
   enum : std::int32_t {
+    BaseStationChosen = 0,
+    CodedCommentChosen = 1,
+    CodedCommentGroupChosen = 2,
+    ColourLegendChosen = 3,
+    CropTypeChosen = 4,
+    CulturalPracticeChosen = 5,
+    GrowerChosen = 6,
+    DeviceChosen = 7,
+    FarmChosen = 8,
+    OperationTechniqueChosen = 9,
+    FieldChosen = 10,
+    ProductChosen = 11,
+    ProductGroupChosen = 12,
+    TaskChosen = 13,
+    ValuePresentationChosen = 14,
+    WorkerChosen = 15,
     NothingChosen = 16,
   };
 
@@ -262,6 +584,278 @@ class ISOXML_API InnerExternalFileContent {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+
+  /// Makes `BaseStation` the alternative held, with an empty run; no effect when it is already.
+  void SelectBaseStation();
+  /// The run of "BSN". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  BaseStation const& GetBaseStation(std::size_t index) const;
+  BaseStation& GetBaseStation(std::size_t index);
+  BaseStation& AppendBaseStation();
+  void AppendBaseStation(BaseStation* value);
+  BaseStation& InsertBaseStation(std::size_t index);
+  void InsertBaseStation(std::size_t index, BaseStation* value);
+  void AssignBaseStation(std::size_t index, BaseStation const& value);
+  void AssignBaseStation(std::size_t index, BaseStation* value);
+  BaseStation& BackBaseStation();
+  void DeleteBaseStation(std::size_t index);
+  void ClearBaseStation();
+  std::size_t SizeBaseStation() const;
+
+  /// Makes `CodedComment` the alternative held, with an empty run; no effect when it is already.
+  void SelectCodedComment();
+  /// The run of "CCT". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CodedComment const& GetCodedComment(std::size_t index) const;
+  CodedComment& GetCodedComment(std::size_t index);
+  CodedComment& AppendCodedComment();
+  void AppendCodedComment(CodedComment* value);
+  CodedComment& InsertCodedComment(std::size_t index);
+  void InsertCodedComment(std::size_t index, CodedComment* value);
+  void AssignCodedComment(std::size_t index, CodedComment const& value);
+  void AssignCodedComment(std::size_t index, CodedComment* value);
+  CodedComment& BackCodedComment();
+  void DeleteCodedComment(std::size_t index);
+  void ClearCodedComment();
+  std::size_t SizeCodedComment() const;
+
+  /// Makes `CodedCommentGroup` the alternative held, with an empty run; no effect when it is already.
+  void SelectCodedCommentGroup();
+  /// The run of "CCG". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CoddedCommentGroup const& GetCodedCommentGroup(std::size_t index) const;
+  CoddedCommentGroup& GetCodedCommentGroup(std::size_t index);
+  CoddedCommentGroup& AppendCodedCommentGroup();
+  void AppendCodedCommentGroup(CoddedCommentGroup* value);
+  CoddedCommentGroup& InsertCodedCommentGroup(std::size_t index);
+  void InsertCodedCommentGroup(std::size_t index, CoddedCommentGroup* value);
+  void AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup const& value);
+  void AssignCodedCommentGroup(std::size_t index, CoddedCommentGroup* value);
+  CoddedCommentGroup& BackCodedCommentGroup();
+  void DeleteCodedCommentGroup(std::size_t index);
+  void ClearCodedCommentGroup();
+  std::size_t SizeCodedCommentGroup() const;
+
+  /// Makes `ColourLegend` the alternative held, with an empty run; no effect when it is already.
+  void SelectColourLegend();
+  /// The run of "CLD". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  ColourLegend const& GetColourLegend(std::size_t index) const;
+  ColourLegend& GetColourLegend(std::size_t index);
+  ColourLegend& AppendColourLegend();
+  void AppendColourLegend(ColourLegend* value);
+  ColourLegend& InsertColourLegend(std::size_t index);
+  void InsertColourLegend(std::size_t index, ColourLegend* value);
+  void AssignColourLegend(std::size_t index, ColourLegend const& value);
+  void AssignColourLegend(std::size_t index, ColourLegend* value);
+  ColourLegend& BackColourLegend();
+  void DeleteColourLegend(std::size_t index);
+  void ClearColourLegend();
+  std::size_t SizeColourLegend() const;
+
+  /// Makes `CropType` the alternative held, with an empty run; no effect when it is already.
+  void SelectCropType();
+  /// The run of "CTP". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CropType const& GetCropType(std::size_t index) const;
+  CropType& GetCropType(std::size_t index);
+  CropType& AppendCropType();
+  void AppendCropType(CropType* value);
+  CropType& InsertCropType(std::size_t index);
+  void InsertCropType(std::size_t index, CropType* value);
+  void AssignCropType(std::size_t index, CropType const& value);
+  void AssignCropType(std::size_t index, CropType* value);
+  CropType& BackCropType();
+  void DeleteCropType(std::size_t index);
+  void ClearCropType();
+  std::size_t SizeCropType() const;
+
+  /// Makes `CulturalPractice` the alternative held, with an empty run; no effect when it is already.
+  void SelectCulturalPractice();
+  /// The run of "CPC". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  CulturalPractice const& GetCulturalPractice(std::size_t index) const;
+  CulturalPractice& GetCulturalPractice(std::size_t index);
+  CulturalPractice& AppendCulturalPractice();
+  void AppendCulturalPractice(CulturalPractice* value);
+  CulturalPractice& InsertCulturalPractice(std::size_t index);
+  void InsertCulturalPractice(std::size_t index, CulturalPractice* value);
+  void AssignCulturalPractice(std::size_t index, CulturalPractice const& value);
+  void AssignCulturalPractice(std::size_t index, CulturalPractice* value);
+  CulturalPractice& BackCulturalPractice();
+  void DeleteCulturalPractice(std::size_t index);
+  void ClearCulturalPractice();
+  std::size_t SizeCulturalPractice() const;
+
+  /// Makes `Grower` the alternative held, with an empty run; no effect when it is already.
+  void SelectGrower();
+  /// The run of "CTR". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Grower const& GetGrower(std::size_t index) const;
+  Grower& GetGrower(std::size_t index);
+  Grower& AppendGrower();
+  void AppendGrower(Grower* value);
+  Grower& InsertGrower(std::size_t index);
+  void InsertGrower(std::size_t index, Grower* value);
+  void AssignGrower(std::size_t index, Grower const& value);
+  void AssignGrower(std::size_t index, Grower* value);
+  Grower& BackGrower();
+  void DeleteGrower(std::size_t index);
+  void ClearGrower();
+  std::size_t SizeGrower() const;
+
+  /// Makes `Device` the alternative held, with an empty run; no effect when it is already.
+  void SelectDevice();
+  /// The run of "DVC". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Device const& GetDevice(std::size_t index) const;
+  Device& GetDevice(std::size_t index);
+  Device& AppendDevice();
+  void AppendDevice(Device* value);
+  Device& InsertDevice(std::size_t index);
+  void InsertDevice(std::size_t index, Device* value);
+  void AssignDevice(std::size_t index, Device const& value);
+  void AssignDevice(std::size_t index, Device* value);
+  Device& BackDevice();
+  void DeleteDevice(std::size_t index);
+  void ClearDevice();
+  std::size_t SizeDevice() const;
+
+  /// Makes `Farm` the alternative held, with an empty run; no effect when it is already.
+  void SelectFarm();
+  /// The run of "FRM". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Farm const& GetFarm(std::size_t index) const;
+  Farm& GetFarm(std::size_t index);
+  Farm& AppendFarm();
+  void AppendFarm(Farm* value);
+  Farm& InsertFarm(std::size_t index);
+  void InsertFarm(std::size_t index, Farm* value);
+  void AssignFarm(std::size_t index, Farm const& value);
+  void AssignFarm(std::size_t index, Farm* value);
+  Farm& BackFarm();
+  void DeleteFarm(std::size_t index);
+  void ClearFarm();
+  std::size_t SizeFarm() const;
+
+  /// Makes `OperationTechnique` the alternative held, with an empty run; no effect when it is already.
+  void SelectOperationTechnique();
+  /// The run of "OTQ". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  OperationTechnique const& GetOperationTechnique(std::size_t index) const;
+  OperationTechnique& GetOperationTechnique(std::size_t index);
+  OperationTechnique& AppendOperationTechnique();
+  void AppendOperationTechnique(OperationTechnique* value);
+  OperationTechnique& InsertOperationTechnique(std::size_t index);
+  void InsertOperationTechnique(std::size_t index, OperationTechnique* value);
+  void AssignOperationTechnique(std::size_t index, OperationTechnique const& value);
+  void AssignOperationTechnique(std::size_t index, OperationTechnique* value);
+  OperationTechnique& BackOperationTechnique();
+  void DeleteOperationTechnique(std::size_t index);
+  void ClearOperationTechnique();
+  std::size_t SizeOperationTechnique() const;
+
+  /// Makes `Field` the alternative held, with an empty run; no effect when it is already.
+  void SelectField();
+  /// The run of "PFD". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Field const& GetField(std::size_t index) const;
+  Field& GetField(std::size_t index);
+  Field& AppendField();
+  void AppendField(Field* value);
+  Field& InsertField(std::size_t index);
+  void InsertField(std::size_t index, Field* value);
+  void AssignField(std::size_t index, Field const& value);
+  void AssignField(std::size_t index, Field* value);
+  Field& BackField();
+  void DeleteField(std::size_t index);
+  void ClearField();
+  std::size_t SizeField() const;
+
+  /// Makes `Product` the alternative held, with an empty run; no effect when it is already.
+  void SelectProduct();
+  /// The run of "PDT". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Product const& GetProduct(std::size_t index) const;
+  Product& GetProduct(std::size_t index);
+  Product& AppendProduct();
+  void AppendProduct(Product* value);
+  Product& InsertProduct(std::size_t index);
+  void InsertProduct(std::size_t index, Product* value);
+  void AssignProduct(std::size_t index, Product const& value);
+  void AssignProduct(std::size_t index, Product* value);
+  Product& BackProduct();
+  void DeleteProduct(std::size_t index);
+  void ClearProduct();
+  std::size_t SizeProduct() const;
+
+  /// Makes `ProductGroup` the alternative held, with an empty run; no effect when it is already.
+  void SelectProductGroup();
+  /// The run of "PGP". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  ProductGroup const& GetProductGroup(std::size_t index) const;
+  ProductGroup& GetProductGroup(std::size_t index);
+  ProductGroup& AppendProductGroup();
+  void AppendProductGroup(ProductGroup* value);
+  ProductGroup& InsertProductGroup(std::size_t index);
+  void InsertProductGroup(std::size_t index, ProductGroup* value);
+  void AssignProductGroup(std::size_t index, ProductGroup const& value);
+  void AssignProductGroup(std::size_t index, ProductGroup* value);
+  ProductGroup& BackProductGroup();
+  void DeleteProductGroup(std::size_t index);
+  void ClearProductGroup();
+  std::size_t SizeProductGroup() const;
+
+  /// Makes `Task` the alternative held, with an empty run; no effect when it is already.
+  void SelectTask();
+  /// The run of "TSK". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Task const& GetTask(std::size_t index) const;
+  Task& GetTask(std::size_t index);
+  Task& AppendTask();
+  void AppendTask(Task* value);
+  Task& InsertTask(std::size_t index);
+  void InsertTask(std::size_t index, Task* value);
+  void AssignTask(std::size_t index, Task const& value);
+  void AssignTask(std::size_t index, Task* value);
+  Task& BackTask();
+  void DeleteTask(std::size_t index);
+  void ClearTask();
+  std::size_t SizeTask() const;
+
+  /// Makes `ValuePresentation` the alternative held, with an empty run; no effect when it is already.
+  void SelectValuePresentation();
+  /// The run of "VPN". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  ValuePresentation const& GetValuePresentation(std::size_t index) const;
+  ValuePresentation& GetValuePresentation(std::size_t index);
+  ValuePresentation& AppendValuePresentation();
+  void AppendValuePresentation(ValuePresentation* value);
+  ValuePresentation& InsertValuePresentation(std::size_t index);
+  void InsertValuePresentation(std::size_t index, ValuePresentation* value);
+  void AssignValuePresentation(std::size_t index, ValuePresentation const& value);
+  void AssignValuePresentation(std::size_t index, ValuePresentation* value);
+  ValuePresentation& BackValuePresentation();
+  void DeleteValuePresentation(std::size_t index);
+  void ClearValuePresentation();
+  std::size_t SizeValuePresentation() const;
+
+  /// Makes `Worker` the alternative held, with an empty run; no effect when it is already.
+  void SelectWorker();
+  /// The run of "WKR". The const forms stop the process on a bad index; the non-const `Get` and `Assign`
+  /// add default objects until the index exists. Pointers given are owned from then on.
+  Worker const& GetWorker(std::size_t index) const;
+  Worker& GetWorker(std::size_t index);
+  Worker& AppendWorker();
+  void AppendWorker(Worker* value);
+  Worker& InsertWorker(std::size_t index);
+  void InsertWorker(std::size_t index, Worker* value);
+  void AssignWorker(std::size_t index, Worker const& value);
+  void AssignWorker(std::size_t index, Worker* value);
+  Worker& BackWorker();
+  void DeleteWorker(std::size_t index);
+  void ClearWorker();
+  std::size_t SizeWorker() const;
 
   std::int32_t chosen;
 

@@ -174,11 +174,11 @@ def element_doc(element):
     return f'{element.name}, element "{element.tag}". {element.doc}'
 
 
-def declare_element(schema, element):
+def declare_element(element):
     name = element.name
     lines = []
     if element.alternatives:
-        lines += declare_choice_class(inner(element), wrapper_doc(element), emitted(schema, element),
+        lines += declare_choice_class(inner(element), wrapper_doc(element), element.alternatives,
                                       len(element.alternatives), False)
     lines += comment(element_doc(element))
     if element.values:
@@ -259,10 +259,6 @@ READ_ROOT = "*error = lmx::ELMX_UNDEFINED_ERROR; Root content; *error = content.
 READ_WRAPPER = "*error = lmx::ELMX_OK; unmarshal(reader, error);"
 
 
-def emitted(schema, element):
-    return [row for row in element.alternatives if row.element.name in schema.emit]
-
-
 def event_row(name, event):
     return f"    {{1, {quoted(name)}, {len(name)}, {event}}},"
 
@@ -285,7 +281,7 @@ def alternative_event(row):
     return row.element.usual_alternative if row.name == row.element.name else row.name
 
 
-def define_alternative(wrapper, row, limit_text):
+def define_alternative(wrapper, row):
     name, class_name = row.name, row.element.name
     chosen = f"{name}Chosen"
     contract = f'{{is_chosen(chosen, m_held, {chosen}), "chosen == {chosen}"}}'
@@ -325,9 +321,6 @@ def define_choice_checks(name, alternatives, occurs):
         f"void {name}::release_choice() {{ m_held.release(); chosen = NothingChosen; }}",
         f"bool {name}::IsOccursOk(lmx::c_check_tracker*{' tracker' if occurs != 'true' else ''}) const {{ return {occurs}; }}",
     ]
-    if not alternatives:
-        return lines + [f"bool {name}::Check(lmx::c_check_tracker* tracker, char const* name) const {{",
-                        "  lmx::c_check_tracker link(tracker, name);", "  return IsOccursOk(&link);", "}"]
     lines += [
         f"bool {name}::Check(lmx::c_check_tracker* tracker, char const* name) const {{",
         "  lmx::c_check_tracker link(tracker, name);",
@@ -338,17 +331,16 @@ def define_choice_checks(name, alternatives, occurs):
     return lines + ["  }", "  return true;", "}"]
 
 
-def define_wrapper(schema, element):
+def define_wrapper(element):
     name = inner(element)
-    rows = emitted(schema, element)
+    rows = element.alternatives
     tag = tag_literal(element)
     mandatory = element.children == "at_least_one"
     lines = define_life(name, " chosen = NothingChosen; ", READ_WRAPPER) + [""]
     lines += event_map(name, "elem", alternative_events(rows))
     lines += define_choice_checks(name, rows, "true")
-    error = "error" if rows or mandatory else ""  # unused in a wrapper none of whose classes are emitted
     lines += [f"bool {name}::IsMember(lmx::xmlReader& reader) {{ return is_member(reader, elem_event_map); }}",
-              f"bool {name}::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* {error}) {{",
+              f"bool {name}::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {{",
               "  reader.tokenise(elem_event_map, lmx::EXAE_ELEMENT);",
               "  switch (reader.m_event) {"]
     for row in rows:
@@ -368,7 +360,7 @@ def define_wrapper(schema, element):
         lines.append("  return true;")
     lines += ["}", ""]
     for row in rows:
-        lines += define_alternative(name, row, None) + [""]
+        lines += define_alternative(name, row) + [""]
     return lines
 
 
@@ -478,17 +470,14 @@ def child_tags(element):
     return alternative_events(element.alternatives)
 
 
-def define_element(schema, element):
+def define_element(element):
     name, tag = element.name, tag_literal(element)
     lines = [f"// ---- {name} ----", ""]
     if element.alternatives:
-        lines += define_wrapper(schema, element)
+        lines += define_wrapper(element)
     lines += define_life(name, "", READ_WHOLE) + [""]
     lines += event_map(name, "attr", [(value.xml, attribute_event(element, value)) for value in element.attributes])
-    if element.alternatives:
-        tags = alternative_events(emitted(schema, element))
-    else:
-        tags = child_tags(element)
+    tags = child_tags(element)
     lines += event_map(name, "elem", tags)
     lines += known_elements(name, [tag_name for tag_name, _ in tags])
     has_children = element.alternatives or element.list_of or element.simple_children
@@ -543,7 +532,7 @@ def includes(paths):
 
 
 def group_header(schema, group):
-    elements = [element for element in schema.emitted() if element.group == group]
+    elements = [element for element in schema.elements.values() if element.group == group]
     types = {value.type for element in elements for value in element.values}
     lines = banner(f"schema/{group}.toml") + ["#pragma once", "", "#include <cstddef>", "#include <cstdint>",
                                              "#include <string>", ""]
@@ -552,19 +541,19 @@ def group_header(schema, group):
                              + [TYPE_HEADERS[name] for name in types if name in TYPE_HEADERS]))
     lines += includes(["isoxmllib/enums.h", "isoxmllib/fwd.h"]) + [""]
     for element in elements:
-        lines += declare_element(schema, element)
+        lines += declare_element(element)
     return lines[:-1]
 
 
 def group_source(schema, group):
-    elements = [element for element in schema.emitted() if element.group == group]
-    held = {row.element.group for element in elements for row in emitted(schema, element)}
+    elements = [element for element in schema.elements.values() if element.group == group]
+    held = {row.element.group for element in elements for row in element.alternatives}
     lines = banner(f"schema/{group}.toml") + includes([f"isoxmllib/{group}.h"]) + ["", "#include <memory>", "#include <utility>", ""]
     lines += includes(["isoxmllib/engine.h", "isoxmllib/events.h", "isoxmllib/rules.h", "isoxmllib/specs.h"]
                       + [f"isoxmllib/{name}.h" for name in sorted(held - {group})])
     lines += ["", "using namespace binding;", ""]
     for element in elements:
-        lines += define_element(schema, element)
+        lines += define_element(element)
     return lines[:-1]
 
 
@@ -572,12 +561,8 @@ ROOT_DOC = ("Every document passes through here: a single choice over every elem
             "document and any fragment are read alike.")
 
 
-def root_rows(schema):
-    return [row for row in schema.root if row.element.name in schema.emit]
-
-
 def root_header(schema):
-    rows = root_rows(schema)
+    rows = schema.root
     lines = banner("schema/root.toml") + ["#pragma once", "", "#include <cstdint>", "#include <string>", ""]
     lines += includes([f"GenLibrarySupportFiles/lmxinternals/{name}.h" for name in ("api", "check_tracker", "choice")]
                       + ["GenLibrarySupportFiles/lmxparse/c_xml_reader.h", "isoxmllib/fwd.h"]) + [""]
@@ -585,7 +570,7 @@ def root_header(schema):
 
 
 def root_source(schema):
-    rows = root_rows(schema)
+    rows = schema.root
     groups = [group for group in model.GROUPS if any(row.element.group == group for row in rows)]
     lines = banner("schema/root.toml") + includes(["isoxmllib/root.h"]) + ["", "#include <memory>", "#include <utility>", ""]
     lines += includes(["isoxmllib/engine.h", "isoxmllib/events.h"] + [f"isoxmllib/{group}.h" for group in sorted(groups)])
@@ -604,7 +589,7 @@ def root_source(schema):
         lines.append(f"    case elem_{row.element.usual_alternative}: return read_alternative(reader, new_one<{row.element.name}>(chosen, m_held, {row.name}Chosen), __LINE__, error);")
     lines += ["  }", "  return report_unknown_top_element(reader, __LINE__, error);", "}", ""]
     for row in rows:
-        lines += define_alternative("Root", row, None) + [""]
+        lines += define_alternative("Root", row) + [""]
     return lines[:-1]
 
 
@@ -639,19 +624,13 @@ def list_name(value):
     return f"list_{value.value}"
 
 
-def used_values(schema):
-    return [value for element in schema.emitted() for value in element.values]
-
-
-def used_validators(schema):
-    """The numbers of the validators that the generated classes need, each with a value that shows its rule."""
-    lexical = {value.lexical: schema.lexical[value.lexical - 1] for value in used_values(schema)}
-    values = {value.value: schema.values[value.value - 1] for value in used_values(schema)}
-    return sorted(lexical.items()), sorted(values.items())
+def numbered_validators(schema):
+    """The lexical and the value validators: number and a value that shows the rule."""
+    return list(enumerate(schema.lexical, 1)), list(enumerate(schema.values, 1))
 
 
 def validators_header(schema):
-    lexical, values = used_validators(schema)
+    lexical, values = numbered_validators(schema)
     types = {value.type for _, value in values}
     lines = banner("schema/rules.toml") + ["// The checks of every simple type, text first and then value. Each reports through the reader's",
                                            "// `report_error` with the item `m_name`; a report that is tolerated lets it go on to its next test.",
@@ -689,7 +668,7 @@ def value_rule_doc(rule):
 
 
 def validators_source(schema):
-    lexical, values = used_validators(schema)
+    lexical, values = numbered_validators(schema)
     patterns = sorted({value.rule.pattern for _, value in lexical if value.rule.pattern})
     bounds = sorted({bound for _, value in lexical if value.rule.minimum is not None
                      for bound in (value.rule.minimum, value.rule.maximum)}, key=int)
@@ -756,7 +735,7 @@ def define_value(number, value):
 
 def spec_rows(schema):
     rows = {}
-    for value in used_values(schema):
+    for value in (value for element in schema.elements.values() for value in element.values):
         rows.setdefault(value.spec, value)
     return sorted(rows.values(), key=lambda value: (value.lexical, value.value, value.rule.white_space))
 
@@ -767,7 +746,7 @@ def specs_header(schema):
                                            '#include "isoxmllib/validators.h"', "", "namespace binding {", ""]
     lines += [f"extern lmx::c_validation_spec<{value.cpp_type}> const {value.spec};" for value in spec_rows(schema)]
     lines.append("")
-    for number, value in used_validators(schema)[1]:
+    for number, value in numbered_validators(schema)[1]:
         if value.rule.one_of:
             lines.append(f"inline constexpr enumeration<{len(value.rule.one_of)}> list_{number}{{{{"
                          + ", ".join(f"{{{quoted(text)}, {enum_name(text)}}}" for text in value.rule.one_of) + "}};")
@@ -785,7 +764,7 @@ def specs_source(schema):
 
 
 def umbrella_groups(schema):
-    return [group for group in model.GROUPS if any(element.group == group for element in schema.emitted())]
+    return [group for group in model.GROUPS if any(element.group == group for element in schema.elements.values())]
 
 
 def files(schema):

@@ -148,15 +148,11 @@ class Element:
 class Schema:
     elements: dict
     root: list
-    emit: set
     events: dict  # ("attribute" or "element", name) -> number
     lexical: list  # representative values; index + 1 is the validator's number
     values: list
     enums: list  # texts; index + 1 is the code
     visited: list  # elements in the order in which they were given events
-
-    def emitted(self):
-        return [element for element in self.elements.values() if element.name in self.emit]
 
 
 def fail(where, message):
@@ -361,11 +357,7 @@ def load(folder=HERE):
         if names.count(name) != 1:
             fail("root.toml", f'"{name}" stands {names.count(name)} times')
     root = [Alternative(name, elements[name], "one", None, chosen) for chosen, name in enumerate(names)]
-    emit = tomllib.loads((folder / "emit.toml").read_text())["emit"]
-    for name in emit:
-        if name not in elements:
-            fail("emit.toml", f'unknown class "{name}"')
-    schema = Schema(elements, root, set(emit), {}, [], [], [], [])
+    schema = Schema(elements, root, {}, [], [], [], [])
     derive_events(schema)
     derive_enums(schema)
     derive_validators(schema)

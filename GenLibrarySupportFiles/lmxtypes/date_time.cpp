@@ -59,6 +59,13 @@ bool skip_byte(char const*& p, char byte) noexcept {
   return true;
 }
 
+// A third digit needs no test: what has to follow in every shape is no digit.
+bool skip_two_digits(char const*& p) noexcept {
+  if (!is_digit(p[0]) || !is_digit(p[1])) return false;
+  p += 2;
+  return true;
+}
+
 bool skip_field(char const*& p, char mark) noexcept {
   switch (mark) {
     case '+': return skip_opt_sign(p);
@@ -66,9 +73,9 @@ bool skip_field(char const*& p, char mark) noexcept {
     case 'M':
     case 'D':
     case 'h':
-    case 'm': return skip_digits(p) == field_digits;
+    case 'm': return skip_two_digits(p);
     case 's':
-      if (skip_digits(p) != field_digits) return false;
+      if (!skip_two_digits(p)) return false;
       if (skip_byte(p, '.')) skip_digits(p);
       return true;
     default: return skip_byte(p, mark);
@@ -97,11 +104,11 @@ void append_real(std::string& text, double value) {
   text.append(digits, end);
 }
 
-// Small values would get an exponent, which no type here allows: 0.0005 is printed as 1.0005, and the 1
-// replaced.
+// The smallest values would get an exponent, which no type here allows: anything below 0.001 is printed
+// with 1 added, and the 1 replaced. Zero goes the same way, so that a negative zero has no sign.
 void append_seconds(std::string& text, double secs) {
   constexpr double lowest_without_exponent = 0.001;
-  bool const is_small = secs != 0.0 && secs < lowest_without_exponent;
+  bool const is_small = secs < lowest_without_exponent;
   std::size_t const start = text.size();
   append_real(text, is_small ? secs + 1.0 : secs);
   if (is_small) text[start] = '0';
@@ -145,8 +152,7 @@ bool c_datetime_base::is_greater_than(c_datetime_base const& other) const noexce
 bool c_datetime_base::is_valid_tz(char const*& p) noexcept {
   if (*p == '\0') return true;
   if (skip_byte(p, 'Z')) return *p == '\0';
-  return skip_sign(p) && skip_digits(p) == field_digits && skip_byte(p, ':') &&
-         skip_digits(p) == field_digits && *p == '\0';
+  return skip_sign(p) && skip_two_digits(p) && skip_byte(p, ':') && skip_two_digits(p) && *p == '\0';
 }
 
 void c_datetime_base::set_tz(char const* text) noexcept {
@@ -330,7 +336,7 @@ std::uint64_t whole_minutes(double secs) {
 // The days that a normalised duration can last, with `extra_years` of its years.
 std::uint64_t days(c_duration const& value, unsigned int const (&days_of_months)[12],
                    std::uint64_t extra_years, std::uint64_t days_of_year) {
-  return value.m_days + days_of_months[value.m_months] + extra_years * days_of_year;
+  return std::uint64_t{value.m_days} + days_of_months[value.m_months] + extra_years * days_of_year;
 }
 
 // What the relations compare: no sign.

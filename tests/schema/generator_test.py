@@ -46,7 +46,6 @@ class WrongDescription(unittest.TestCase):
          'children "some" is none of any, at_least_one, at_most_one'),
         ("missing in root", "root.toml", '  "LinkGroup",\n', "", 'root.toml: "LinkGroup" stands 0 times'),
         ("unknown in root", "root.toml", '"LinkGroup"', '"LinkGrup"', 'root.toml: unknown class "LinkGrup"'),
-        ("unknown in emit", "emit.toml", '"LinkGroup"', '"LinkGrup"', 'emit.toml: unknown class "LinkGrup"'),
         ("unknown facet", "rules.toml", "max_length = 14", "max_lenght = 14", 'unknown facet "max_lenght"'),
         ("unknown form", "rules.toml", 'form = "hex"', 'form = "hexa"', 'unknown form "hexa"'),
         ("no TOML", "task_data.toml", "[LinkGroup]", "[LinkGroup", "schema: "),
