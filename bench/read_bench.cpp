@@ -63,8 +63,9 @@ void read_bytes(benchmark::State& state) {
 }
 
 BENCHMARK(read_bytes);
-BENCHMARK_CAPTURE(open_set, capabilities,
-                  "  <TCC A=\"0102030405060708\" B=\"Some designator\" C=\"4\" D=\"63\" E=\"1\" F=\"2\" G=\"3\"/>\n");
+BENCHMARK_CAPTURE(
+    open_set, capabilities,
+    "  <TCC A=\"0102030405060708\" B=\"Some designator\" C=\"4\" D=\"63\" E=\"1\" F=\"2\" G=\"3\"/>\n");
 BENCHMARK_CAPTURE(open_set, skipped, "  <Foo A=\"1\" B=\"some text\"><Bar/>text</Foo>\n");
 
 }  // namespace

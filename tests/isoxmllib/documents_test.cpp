@@ -1,0 +1,535 @@
+// Whole documents and fragments of the format: the code, the line and the item that each fault gets, and what
+// a reader that tolerates everything is told, in order.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "isoxmllib/isoxmllib.h"
+#include "support/document.h"
+
+namespace {
+
+std::string with_line_ends(std::string const& text, std::string const& line_end) {
+  std::string out;
+  for (const char c : text) {
+    if (c == '\n') {
+      out += line_end;
+    } else {
+      out += c;
+    }
+  }
+  return out;
+}
+
+// ---- Lines ----
+
+struct LineCase {
+  char const* document;
+  int code;
+  int lf, cr_lf, cr;
+};
+
+class Lines : public testing::TestWithParam<LineCase> {};
+
+TEST_P(Lines, AreThoseTheReaderHasReached) {
+  LineCase const& row = GetParam();
+  const std::pair<char const*, int> forms[] = {{"\n", row.lf}, {"\r\n", row.cr_lf}, {"\r", row.cr}};
+  for (auto const& [line_end, line] : forms) {
+    const Reading reading = read_document(with_line_ends(row.document, line_end));
+    EXPECT_EQ(row.code, reading.code) << row.document;
+    EXPECT_EQ(line, reading.line) << row.document << " with line ends of " << std::string(line_end).size();
+  }
+}
+
+// A line feed that stops a name is counted twice, unless it was written as a lone CR.
+INSTANTIATE_TEST_SUITE_P(
+    Documents, Lines,
+    testing::Values(
+        LineCase{"<TSK\n  A=\"TSK1\"/>\n", 25, 3, 3, 2}, LineCase{"<TSK\n\nA=\"TSK1\"/>\n", 25, 4, 4, 3},
+        LineCase{"<TSK A=\"TSK1\" G=\"1\">\n  <TIM\n    A=\"2024-01-01T00:00:00\" D=\"3\"/>\n</TSK>\n", 38, 4,
+                 4, 3},
+        LineCase{"<PFD A=\"PFD1\"\n     C=\"North\"\n     D=\"12a\"\n     E=\"CTR1\"/>\n", 35, 4, 4, 4},
+        LineCase{"<TSK A=\"TSK1\" G=\"1\">\n<Foo\n/>\n<TIM A=\"x\" D=\"1\"/>\n</TSK>\n", 35, 5, 5, 4},
+        LineCase{"<TSK\nA=\"TSK1\"\nG=\"1\">\n<TZN\nA=\"1\">\n<PDV\nA=\"0001\"\nB=\"1x\"/>\n</TZN>\n</TSK>\n",
+                 35, 11, 11, 8},
+        LineCase{"<TSK A=\"TSK1\" G=\"1\">\n</TSX>\n", 10, 2, 2, 2},
+        LineCase{"<TSK A=\"TSK1\" G=\"1\">\n\n", 34, 3, 3, 3},
+        LineCase{"<TSK A=\"TSK1\"\n\n\n/>\n", 25, 4, 4, 4},
+        LineCase{"<TSK A=\"TSK1\"\nG=\"1\" B=\"a\nb\" C=\"CTR\"/>\n", 20, 3, 3, 3},
+        LineCase{"<TSK A\n=\"TSK1\"/>", 25, 3, 3, 2}, LineCase{"<TSK A=\n\"TSK1\" G=1/>", 23, 2, 2, 2},
+        LineCase{"<TSK A=\"TSK1\" G=\"1\">\n<!-- a\nb -->\n<?p q\nr?>\n<TIM A=\"x\"/>\n</TSK>\n", 35, 6, 6,
+                 6},
+        LineCase{"<CLD A=\"CLD1\">\n\n</CLD>", 32, 3, 3, 3},
+        LineCase{"<CLD A=\"CLD1\">\n<Foo/>\n</CLD>", 21, 3, 3, 3}, LineCase{"\n\n<Foo/>\n\n", 34, 5, 5, 5},
+        LineCase{"<TSK A=\"TSK1\" G=\"1", 23, 1, 1, 1}, LineCase{"<TSK A=\"TSK1\" G=\"1\"\n", 31, 2, 2, 2},
+        LineCase{"<?xml version=\"1.0\"?>\n<ISO11783_TaskData\n  VersionMajor=\"4\"\n  VersionMinor=\"3\"\n"
+                 "  ManagementSoftwareManufacturer=\"a\"\n  ManagementSoftwareVersion=\"1\"\n  "
+                 "DataTransferOrigin=\"1\">\n"
+                 "  <TSK A=\"TSK1\"/>\n</ISO11783_TaskData>\n",
+                 25, 9, 9, 8}));
+
+// ---- Codes ----
+
+struct CodeCase {
+  char const* caption;
+  std::string document;
+  int code;
+};
+
+class Faults : public testing::TestWithParam<CodeCase> {};
+
+TEST_P(Faults, GetTheirCode) {
+  EXPECT_EQ(GetParam().code, read_document(GetParam().document).code) << GetParam().caption;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    WellFormedness, Faults,
+    testing::Values(
+        CodeCase{"unquoted value", "<TSK A=TSK1 G=\"1\"/>", 23},
+        CodeCase{"missing =", "<TSK A \"TSK1\"/>", 23},
+        CodeCase{"stray character in a start tag", "<TSK A=\"TSK1\" % G=\"1\"/>", 23},
+        CodeCase{"wrong end tag", "<TSK A=\"TSK1\" G=\"1\"></TSX>", 10},
+        CodeCase{"wrong end tag inside an unknown element",
+                 "<TSK A=\"TSK1\" G=\"1\"><Foo><a></b></Foo></TSK>", 5},
+        CodeCase{"text among children", "<TSK A=\"TSK1\" G=\"1\">text</TSK>", 10},
+        CodeCase{"CDATA among children", "<TSK A=\"TSK1\" G=\"1\"><![CDATA[x]]></TSK>", 10},
+        CodeCase{"empty CDATA among children", "<TSK A=\"TSK1\" G=\"1\"><![CDATA[]]></TSK>", 10},
+        CodeCase{"text where a child is mandatory", "<PLN A=\"1\">text</PLN>", 21},
+        CodeCase{"CDATA where a child is mandatory", "<CLD A=\"CLD1\"><![CDATA[]]></CLD>", 21},
+        CodeCase{"< in a value", "<TSK A=\"TSK1\" B=\"a<b\" G=\"1\"/>", 0},
+        CodeCase{"no blank between attributes", "<TSK A=\"TSK1\"G=\"1\"/>", 0},
+        CodeCase{"repeated attribute", "<TSK A=\"TSK1\" A=\"TSK1\" G=\"1\"/>", 3},
+        CodeCase{"unknown attribute and element",
+                 "<TSK A=\"TSK1\" G=\"1\" P1_x=\"y\"><Foo b=\"c\">d</Foo></TSK>", 0},
+        CodeCase{"undeclared entity in an attribute", "<TSK A=\"TSK1\" G=\"1\" B=\"&nbsp;\"/>", 28},
+        CodeCase{"undeclared entity in text",
+                 "<TSK A=\"TSK1\" G=\"1\"><P917_comment>&nbsp;</P917_comment></TSK>", 29},
+        CodeCase{"undeclared entity between tags", "<TSK A=\"TSK1\" G=\"1\">&nbsp;</TSK>", 10},
+        CodeCase{"undeclared entity in an unknown element", "<TSK A=\"TSK1\" G=\"1\"><Foo>&nbsp;</Foo></TSK>",
+                 5},
+        CodeCase{"undeclared entity in an unknown attribute", "<TSK A=\"TSK1\" G=\"1\" x=\"&nbsp;\"/>", 0},
+        CodeCase{"ampersand alone in an attribute", "<TSK A=\"TSK1\" G=\"1\" B=\"A & B\"/>", 28},
+        CodeCase{"ampersand alone in text",
+                 "<TSK A=\"TSK1\" G=\"1\"><P917_comment>A & B</P917_comment></TSK>", 29},
+        CodeCase{"ampersand alone between tags", "<TSK A=\"TSK1\" G=\"1\">A & B</TSK>", 10},
+        CodeCase{"missing required attribute", "<TSK A=\"TSK1\"/>", 25},
+        CodeCase{"DOCTYPE in content", "<TSK A=\"TSK1\" G=\"1\"><!DOCTYPE x></TSK>", 9},
+        CodeCase{"second DOCTYPE", "<!DOCTYPE x><!DOCTYPE x><TSK A=\"TSK1\" G=\"1\"/>", 9},
+        CodeCase{"NUL in a value", std::string("<TSK A=\"TSK1\0x\" G=\"1\"/>", 23), 23},
+        CodeCase{"bad byte in a value", "<TSK A=\"TSK1\" G=\"1\" B=\"\x80\"/>", 23},
+        CodeCase{"bad byte in text", "<TSK A=\"TSK1\" G=\"1\"><P917_comment>\x80</P917_comment></TSK>", 29},
+        CodeCase{"bad byte between tags", "<TSK A=\"TSK1\" G=\"1\">\x80</TSK>", 34},
+        CodeCase{"bad byte as the second of the file", "<\x80TSK A=\"TSK1\" G=\"1\"/>", 23},
+        CodeCase{"child of an element with text alone",
+                 "<TSK A=\"TSK1\" G=\"1\"><P917_comment>a<b/></P917_comment></TSK>", 10},
+        CodeCase{"warning whose code shows later", "<TSK A=\"TSK1\" G=\"1\"><!-- x ---><!x></TSK>", 8}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Prolog, Faults,
+    testing::Values(CodeCase{"version missing", "<?xml encoding=\"UTF-8\"?><TSK A=\"TSK1\" G=\"1\"/>", 13},
+                    CodeCase{"version 2.0", "<?xml version=\"2.0\"?><TSK A=\"TSK1\" G=\"1\"/>", 14},
+                    CodeCase{"version 1.1", "<?xml version=\"1.1\"?><TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"unknown encoding",
+                             "<?xml version=\"1.0\" encoding=\"KOI8-R\"?><TSK A=\"TSK1\" G=\"1\"/>", 6},
+                    CodeCase{"encoding that the bytes are not",
+                             "<?xml version=\"1.0\" encoding=\"UTF-16\"?><TSK A=\"TSK1\" G=\"1\"/>", 15},
+                    CodeCase{"damaged declaration", "<?xml version=\"1.0\" x?><TSK A=\"TSK1\" G=\"1\"/>", 31},
+                    CodeCase{"second declaration",
+                             "<?xml version=\"1.0\"?><?xml version=\"1.0\"?><TSK A=\"TSK1\" G=\"1\"/>", 13},
+                    CodeCase{"declaration after a comment",
+                             "<!-- c --><?xml version=\"1.0\"?><TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"declaration in content",
+                             "<TSK A=\"TSK1\" G=\"1\"><?xml version=\"1.0\"?></TSK>", 13},
+                    CodeCase{"short instruction swallows the document", "<?x?><TSK A=\"TSK1\" G=\"1\"/>", 31},
+                    CodeCase{"short instruction up to the next", "<?x?>...?><TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"byte order mark", "\xEF\xBB\xBF<TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"lower-case encoding name",
+                             "<?xml version=\"1.0\" encoding=\"utf-8\"?><TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"DOCTYPE before the root", "<!DOCTYPE TSK><TSK A=\"TSK1\" G=\"1\"/>", 0}));
+
+INSTANTIATE_TEST_SUITE_P(
+    TopElement, Faults,
+    testing::Values(CodeCase{"nothing", "", 34}, CodeCase{"blanks", " \n ", 34},
+                    CodeCase{"comment alone", "<!-- a -->", 34}, CodeCase{"instruction alone", "<?a b?>", 34},
+                    CodeCase{"declaration alone", "<?xml version=\"1.0\"?>", 34},
+                    CodeCase{"DOCTYPE alone", "<!DOCTYPE a>", 34}, CodeCase{"mark alone", "\xEF\xBB\xBF", 34},
+                    CodeCase{"unknown", "<Foo/>", 34},
+                    CodeCase{"unknown with content", "<Foo>a<b/></Foo>", 34},
+                    CodeCase{"unknown and not closed", "<Foo>", 5},
+                    CodeCase{"unknown with wrong end tags", "<Foo><a></b></Foo>", 5},
+                    CodeCase{"unknown with an undeclared entity", "<Foo>&nbsp;</Foo>", 5},
+                    CodeCase{"unknown, then a good one", "<Foo/><TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"good one, then anything", "<TSK A=\"TSK1\" G=\"1\"/><<<", 0},
+                    CodeCase{"text first", "hello<TSK/>", 6}, CodeCase{"blank and text first", " hello", 31},
+                    CodeCase{"end tag first", "</x>", 31},
+                    CodeCase{"known name in another namespace", "<TSK xmlns=\"u\" A=\"TSK1\" G=\"1\"/>", 34},
+                    CodeCase{"cut off after a complete attribute", "<TSK A=\"TSK1\" G=\"1\"", 31}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Content, Faults,
+    testing::Values(
+        CodeCase{"mandatory content, empty tag", "<PLN A=\"1\"/>", 32},
+        CodeCase{"mandatory content, end tag at once", "<PLN A=\"1\"></PLN>", 32},
+        CodeCase{"mandatory content, blanks and a comment", "<PLN A=\"1\"> <!-- a --> </PLN>", 32},
+        CodeCase{"mandatory content, unknown child", "<PLN A=\"1\"><Foo/></PLN>", 21},
+        CodeCase{"mandatory content, child not allowed there", "<PLN A=\"1\"><TSK/></PLN>", 21},
+        CodeCase{"mandatory content, cut off", "<PLN A=\"1\">", 34}, CodeCase{"LSG", "<LSG A=\"1\"/>", 32},
+        CodeCase{"GGP", "<GGP A=\"GGP1\"/>", 32}, CodeCase{"GPN", "<GPN A=\"GPN1\" C=\"1\"/>", 32},
+        CodeCase{"GAN", "<GAN A=\"GGP1\"/>", 32}, CodeCase{"CLD", "<CLD A=\"CLD1\"/>", 32},
+        CodeCase{"DVC without DET but with DPT",
+                 "<DVC A=\"DVC1\" D=\"0102030405060708\" F=\"01020304050607\" G=\"FF010203040506\">"
+                 "<DPT A=\"1\" B=\"0001\" C=\"1\"/></DVC>",
+                 0},
+        CodeCase{"TSK may be empty", "<TSK A=\"TSK1\" G=\"1\"/>", 0},
+        CodeCase{"allocation without stamp", "<DAN A=\"0102030405060708\" C=\"DVC1\"/>", 0},
+        CodeCase{"questions may be empty", "<P917_Questions/>", 0},
+        CodeCase{"comment may be empty", "<P917_comment/>", 0},
+        CodeCase{"attributes only: blanks, comments, instructions",
+                 "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"1\"> <!-- a --> <?b c?> </AFE>", 0},
+        CodeCase{"attributes only: unknown child",
+                 "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"1\"><Foo/></AFE>", 10},
+        CodeCase{"attributes only: known child",
+                 "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"1\"><TSK/></AFE>", 10},
+        CodeCase{"attributes only: text", "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"1\">x</AFE>", 10}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, Faults,
+    testing::Values(
+        CodeCase{"zone code 255", "<TZN A=\"255\"/>", 36}, CodeCase{"zone code empty", "<TZN A=\"\"/>", 35},
+        CodeCase{"zone code +5", "<TZN A=\"+5\"/>", 0}, CodeCase{"zone code 0005", "<TZN A=\"0005\"/>", 0},
+        CodeCase{"zone code -0", "<TZN A=\"-0\"/>", 0},
+        CodeCase{"zone code in blanks", "<TZN A=\" 5 \"/>", 0}, CodeCase{"zone code +", "<TZN A=\"+\"/>", 35},
+        CodeCase{"zone code 1.0", "<TZN A=\"1.0\"/>", 35},
+        CodeCase{"300 digits", "<TZN A=\"" + std::string(300, '9') + "\"/>", 36},
+        CodeCase{"-0 under a minimum of 1", "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"-0\"/>", 37},
+        CodeCase{"lowest threshold", "<DLT A=\"0001\" B=\"1\" E=\"-2147483648\"/>", 37},
+        CodeCase{"lowest value", "<PDV A=\"0001\" B=\"-2147483648\"/>", 0},
+        CodeCase{"cell of NaN",
+                 "<GRD A=\"1\" B=\"1\" C=\"NaN\" D=\"0.5\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 37},
+        CodeCase{"cell of INF",
+                 "<GRD A=\"1\" B=\"1\" C=\"INF\" D=\"0.5\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 36},
+        CodeCase{"cell of -INF",
+                 "<GRD A=\"1\" B=\"1\" C=\"-INF\" D=\"0.5\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 37},
+        CodeCase{"cell of -0.0",
+                 "<GRD A=\"1\" B=\"1\" C=\"-0.0\" D=\"0.5\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 0},
+        CodeCase{"cell of 1.0",
+                 "<GRD A=\"1\" B=\"1\" C=\"1.0\" D=\"0.5\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 0},
+        CodeCase{"cell of 1.01",
+                 "<GRD A=\"1\" B=\"1\" C=\"1.01\" D=\"0.5\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 36},
+        CodeCase{"grid rows up to the type's end",
+                 "<GRD A=\"1\" B=\"1\" C=\"1\" D=\"1\" E=\"4294967295\" F=\"1\" G=\"GRD00001\" I=\"1\"/>", 0},
+        CodeCase{"grid file name too short",
+                 "<GRD A=\"1\" B=\"1\" C=\"1\" D=\"1\" E=\"1\" F=\"1\" G=\"GRD0001\" I=\"1\"/>", 20},
+        CodeCase{"grid file name of another kind",
+                 "<GRD A=\"1\" B=\"1\" C=\"1\" D=\"1\" E=\"1\" F=\"1\" G=\"GRX00001\" I=\"1\"/>", 22},
+        CodeCase{"dilution of -0.0", "<PTN A=\"1\" B=\"1\" D=\"1\" E=\"-0.0\"/>", 37},
+        CodeCase{"north of -0.0", "<PNT A=\"1\" C=\"-0.0\" D=\"0\"/>", 0},
+        CodeCase{"north of 90.0000001", "<PNT A=\"1\" C=\"90.0000001\" D=\"0\"/>", 36},
+        CodeCase{"north of -90.0", "<PNT A=\"1\" C=\"-90.0\" D=\"0\"/>", 0},
+        CodeCase{"method 9",
+                 "<GPN A=\"GPN1\" C=\"1\" I=\"9\"><LSG A=\"5\"><PNT A=\"6\" C=\"1\" D=\"1\"/></LSG></GPN>",
+                 38},
+        CodeCase{"scale of 0", "<VPN A=\"VPN1\" B=\"0\" C=\"0\" D=\"0\"/>", 37},
+        CodeCase{"smallest scale", "<VPN A=\"VPN1\" B=\"0\" C=\"0.000000001\" D=\"0\"/>", 0},
+        CodeCase{"identifier with a hyphen", "<BSN A=\"BSN-1\" B=\"a\" C=\"1\" D=\"1\" E=\"1\"/>", 0},
+        CodeCase{"identifier without a number", "<BSN A=\"BSN-\" B=\"a\" C=\"1\" D=\"1\" E=\"1\"/>", 22},
+        CodeCase{"customer without a name", "<CTR A=\"CTR1\"/>", 25},
+        CodeCase{"connection", "<CNN A=\"DVC1\" B=\"DET1\" C=\"DVC2\"/>", 25},
+        CodeCase{"element object 0", "<DET A=\"DET1\" B=\"0\" C=\"1\" E=\"1\" F=\"1\"/>", 37},
+        CodeCase{"element object 65535", "<DET A=\"DET1\" B=\"65535\" C=\"1\" E=\"1\" F=\"1\"/>", 36},
+        CodeCase{"process data object 65535", "<DPD A=\"65535\" B=\"0001\" C=\"0\" D=\"1\"/>", 36},
+        CodeCase{
+            "reply type with a capital",
+            "<P917_Question P917_Uuid=\"92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"String\">"
+            "<P917_Prompt/></P917_Question>",
+            22},
+        CodeCase{
+            "padded uuid keeps its blanks",
+            "<P917_Question P917_Uuid=\" 92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"string\">"
+            "<P917_Prompt/></P917_Question>",
+            22}));
+
+// ---- What a tolerant reader is told ----
+
+struct ReportCase {
+  char const* caption;
+  char const* document;
+  std::vector<Report> reports;
+};
+
+class Reports : public testing::TestWithParam<ReportCase> {};
+
+TEST_P(Reports, ComeInOrder) {
+  EXPECT_EQ(GetParam().reports, tolerated(GetParam().document)) << GetParam().caption;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tolerated, Reports,
+    testing::Values(
+        ReportCase{"mandatory content, empty tag", "<PLN A=\"1\"/>", {{32, "PLN"}, {10, "PLN"}}},
+        ReportCase{"mandatory content, end tag at once", "<PLN A=\"1\"></PLN>", {{32, "PLN"}}},
+        ReportCase{
+            "mandatory content, unknown child", "<PLN A=\"1\"><Foo/></PLN>", {{21, "PLN"}, {21, "PLN"}}},
+        ReportCase{
+            "mandatory content, text", "<PLN A=\"1\">text</PLN>", {{21, "PLN"}, {21, "PLN"}, {10, "PLN"}}},
+        ReportCase{"text in a child",
+                   "<TZN A=\"1\"><PLN A=\"1\">text</PLN></TZN>",
+                   {{21, "PLN"}, {21, "PLN"}, {10, "PLN"}, {10, "TZN"}}},
+        ReportCase{"mandatory content, cut off",
+                   "<PLN A=\"1\">",
+                   {{34, "PLN"}, {21, "PLN"}, {21, "PLN"}, {10, "PLN"}}},
+        ReportCase{"empty integer", "<TZN A=\"\"/>", {{35, "A"}, {36, "A"}}},
+        ReportCase{"identifier of 15 characters", "<TSK A=\"TSK123456789012\" G=\"1\"/>", {{19, "A"}}},
+        ReportCase{
+            "too long and of another kind", "<TSK A=\"TSX123456789012\" G=\"1\"/>", {{19, "A"}, {22, "A"}}},
+        ReportCase{"too short and of another kind",
+                   "<AFE A=\"x\"><Foo/></AFE>",
+                   {{20, "A"}, {22, "A"}, {25, "AFE"}, {10, "AFE"}}},
+        ReportCase{"NaN fails both limits",
+                   "<GRD A=\"1\" B=\"1\" C=\"NaN\" D=\"1\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>",
+                   {{37, "C"}, {36, "C"}}},
+        ReportCase{"repeated attribute", "<TSK A=\"TSK1\" A=\"TSK2\" G=\"1\"/>", {{3, "@A"}}},
+        ReportCase{"one report for all that is missing", "<CNN/>", {{25, "CNN"}}},
+        ReportCase{
+            "cut off inside the start tag", "<TSK A=\"TSK1\" G=\"1\"/", {{23, ""}, {34, "TSK"}, {10, "TSK"}}},
+        ReportCase{"question without anything",
+                   "<P917_Question/>",
+                   {{25, "P917_Question"}, {32, "P917_Question"}, {10, "P917_Question"}}}));
+
+// ---- Children ----
+
+std::string task(std::string const& children) { return "<TSK A=\"TSK1\" G=\"1\">" + children + "</TSK>"; }
+
+TEST(Children, OfDifferentKindsKeepTheirOrder) {
+  Root root;
+  ASSERT_EQ(
+      0, read_document(
+             root, task("<TZN A=\"1\"/><TZN A=\"2\"/><TIM A=\"2024-01-01T00:00:00\" D=\"1\"/><TZN A=\"3\"/>"))
+             .code);
+  Task const& read = root.GetTask();
+  ASSERT_EQ(3u, read.SizeInnerTask());
+  EXPECT_EQ(2u, read.GetInnerTask(0).SizeTreatmentZone());
+  EXPECT_EQ(InnerTask::TimeChosen, read.GetInnerTask(1).chosen);
+  EXPECT_EQ(3, read.GetInnerTask(2).GetTreatmentZone(0).GetCode());
+}
+
+TEST(Children, UnknownOnesDoNotBreakARun) {
+  Root root;
+  ASSERT_EQ(0, read_document(root, task("<TZN A=\"1\"/><Foo/><TZN A=\"2\"/>")).code);
+  ASSERT_EQ(1u, root.GetTask().SizeInnerTask());
+  EXPECT_EQ(2u, root.GetTask().GetInnerTask(0).SizeTreatmentZone());
+}
+
+TEST(Children, ReferencesInAnExternalFileAreSkippedAndNothingIsLost) {
+  Root root;
+  TempDir directory;
+  TolerantReader reader(
+      directory
+          .write("document.xml",
+                 "<XFC><TSK A=\"TSK1\" G=\"1\"/><XFR A=\"TSK00002\" B=\"1\"/><TSK A=\"TSK2\" G=\"1\"/></XFC>")
+          .c_str());
+  ASSERT_EQ(0, root.unmarshal(reader));
+  EXPECT_EQ(std::vector<std::string>{"XFR"}, reader.unknown);
+  ASSERT_EQ(1u, root.GetExternalFileContent().SizeInnerExternalFileContent());
+  EXPECT_EQ(2u, root.GetExternalFileContent().GetInnerExternalFileContent(0).SizeTask());
+}
+
+TEST(Children, PositionsComeInRunsOfTwo) {
+  char const* const three =
+      "<PTN A=\"1\" B=\"1\" D=\"1\"/><PTN A=\"2\" B=\"1\" D=\"1\"/><PTN A=\"3\" B=\"1\" D=\"1\"/>";
+  Root time;
+  ASSERT_EQ(
+      0, read_document(time, "<TIM A=\"2024-01-01T00:00:00\" D=\"1\">" + std::string(three) + "</TIM>").code);
+  ASSERT_EQ(2u, time.GetTime().SizeInnerTime());
+  EXPECT_EQ(2u, time.GetTime().GetInnerTime(0).SizePosition());
+  EXPECT_EQ(1u, time.GetTime().GetInnerTime(1).SizePosition());
+
+  Root stamp;
+  TempDir directory;
+  TolerantReader reader(
+      directory
+          .write("document.xml", "<ASP A=\"2024-01-01T00:00:00\" D=\"1\">" + std::string(three) + "</ASP>")
+          .c_str());
+  ASSERT_EQ(0, stamp.unmarshal(reader));
+  EXPECT_EQ(2u, stamp.GetAllocationStamp().GetInnerAllocationStamp().SizePosition());
+  EXPECT_EQ(std::vector<std::string>{"PTN"}, reader.unknown);
+  EXPECT_TRUE(reader.reports.empty());
+}
+
+TEST(Children, OutOfPlaceAreDroppedWithAllThatFollowsThem) {
+  Root root;
+  TempDir directory;
+  char const* const stamp = "<ASP A=\"2024-01-01T00:00:00\" D=\"1\"/>";
+  TolerantReader reader(
+      directory.write("document.xml", "<WAN A=\"WKR1\">" + std::string(stamp) + stamp + stamp + "</WAN>")
+          .c_str());
+  ASSERT_EQ(0, root.unmarshal(reader));
+  EXPECT_EQ((std::vector<std::string>{"ASP", "ASP"}), reader.unknown);
+  EXPECT_EQ(InnerWorkerAllocation::AllocationStampChosen,
+            root.GetWorkerAllocation().GetInnerWorkerAllocation().chosen);
+}
+
+TEST(Children, NestToAnyDepthThatIsUsual) {
+  std::string document = "<PDV A=\"0001\" B=\"1\"/>";
+  for (int i = 0; i != 2; ++i) document = "<PDV A=\"0001\" B=\"1\">" + document + "</PDV>";
+  Root root;
+  ASSERT_EQ(0, read_document(root, document).code);
+  ProcessDataVariable const& inner =
+      root.GetProcessDataVariable().GetInnerProcessDataVariable(0).GetProcessDataVariable(0);
+  EXPECT_EQ(1u, inner.GetInnerProcessDataVariable(0).SizeProcessDataVariable());
+}
+
+TEST(Children, ABoundaryPolygonBeforeAnyPatternIsFine) {
+  Root root;
+  ASSERT_EQ(
+      0,
+      read_document(
+          root, "<GGP A=\"GGP1\"><PLN A=\"1\"><LSG A=\"1\"><PNT A=\"1\" C=\"1\" D=\"1\"/></LSG></PLN></GGP>")
+          .code);
+  EXPECT_EQ(InnerGuidanceGroup::BoundaryPolygonChosen,
+            root.GetGuidanceGroup().GetInnerGuidanceGroup(0).chosen);
+}
+
+// ---- Questions ----
+
+std::string question(std::string const& children) {
+  return "<P917_Question P917_Uuid=\"92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"string\">" +
+         children + "</P917_Question>";
+}
+
+TEST(Questions, HoldPromptReplyAndOptions) {
+  Root root;
+  ASSERT_EQ(
+      0, read_document(
+             root,
+             question("<P917_Prompt> a "
+                      "</P917_Prompt><P917_Reply>b</P917_Reply><P917_Option>c</P917_Option><P917_Option/>"))
+             .code);
+  P917Question const& read = root.GetP917Question();
+  EXPECT_EQ(" a ", read.GetPrompt());
+  EXPECT_EQ("b", read.GetReply());
+  ASSERT_EQ(2u, read.SizeOption());
+  EXPECT_EQ("c", read.GetOption(0));
+  EXPECT_EQ("", read.GetOption(1));
+}
+
+TEST(Questions, MissAPrompt) {
+  EXPECT_EQ(32, read_document(question("")).code);
+  EXPECT_EQ((Reading{21, 1, "P917_Question"}), read_document(question("<P917_Reply>b</P917_Reply>")));
+  Root root;
+  EXPECT_EQ((std::vector<Report>{{21, "P917_Question"}}),
+            tolerated(root, question("<P917_Reply>b</P917_Reply>")));
+  EXPECT_EQ("b", root.GetP917Question().GetReply()) << "reading went on to the reply";
+}
+
+TEST(Questions, DropAReplyAfterAnOptionAndWhatFollows) {
+  Root root;
+  TempDir directory;
+  TolerantReader reader(
+      directory
+          .write("document.xml",
+                 question("<P917_Prompt>a</P917_Prompt><P917_Option>b</P917_Option><P917_Reply>c</"
+                          "P917_Reply><P917_Option>d</P917_Option>"))
+          .c_str());
+  ASSERT_EQ(0, root.unmarshal(reader));
+  EXPECT_EQ((std::vector<std::string>{"P917_Reply", "P917_Option"}), reader.unknown);
+  EXPECT_EQ(1u, root.GetP917Question().SizeOption());
+  EXPECT_FALSE(root.GetP917Question().IssetReply());
+  EXPECT_EQ(1u, reader.getQuestions().size()) << "the question is delivered";
+}
+
+TEST(Questions, AChildElementInsideAPromptIsRefused) {
+  EXPECT_EQ(10, read_document(question("<P917_Prompt>a<b/></P917_Prompt>")).code);
+}
+
+TEST(Questions, AttributesOfTheirChildrenAreIgnored) {
+  EXPECT_EQ(0, read_document(question("<P917_Prompt x=\"1\" xmlns:p=\"u\">a</P917_Prompt>")).code);
+}
+
+TEST(Questions, ErrorsAfterAPromptReachTheHost) {
+  Root root;
+  TempDir directory;
+  lmx::xmlReader reader(directory
+                            .write("document.xml",
+                                   "<P917_Question P917_Uuid=\"92043685-072d-4caa-b3a8-c1e9d23bdb31\" "
+                                   "P917_ReplyType=\"string\"><P917_Prompt>a</P917_Prompt>")
+                            .c_str());
+  EXPECT_EQ(34, root.unmarshal(reader));
+  EXPECT_NE(std::string::npos, reader.get_error_message().find("Unexpected end of message"));
+}
+
+TEST(Questions, UnknownElementsBetweenThemVanish) {
+  Root root;
+  const std::string one = question("<P917_Prompt>a</P917_Prompt>");
+  ASSERT_EQ(0, read_document(root, "<P917_Questions>" + one + "<Foo/>" + one + "</P917_Questions>").code);
+  EXPECT_EQ(2u, root.GetP917Questions().SizeP917Question());
+}
+
+TEST(Comments, AreTheTextOfTheElement) {
+  Root root;
+  ASSERT_EQ(0, read_document(root, task("<P917_comment> hi <!-- c -->there</P917_comment>")).code);
+  EXPECT_EQ(" hi there", root.GetTask().GetInnerTask(0).GetP917Comment().GetP917Comment());
+  Root empty;
+  ASSERT_EQ(0, read_document(empty, "<P917_comment/>").code);
+  EXPECT_TRUE(empty.GetP917Comment().IssetP917Comment());
+}
+
+// ---- White space ----
+
+TEST(WhiteSpace, GoesFromVersionsAndStaysInFreeTexts) {
+  Root root;
+  ASSERT_EQ(
+      0,
+      read_document(
+          root,
+          "<ISO11783_TaskData VersionMajor=\" 4 \" VersionMinor=\"3\" ManagementSoftwareManufacturer=\" a \" "
+          "ManagementSoftwareVersion=\"1\" DataTransferOrigin=\" 1 \" lang=\" en \">"
+          "<TSK A=\" TSK1 \" G=\"1\" P007_JobMetaData=\"  x \"/></ISO11783_TaskData>")
+          .code);
+  TaskData const& data = root.GetTaskData();
+  EXPECT_EQ("4", data.GetVersionMajor());
+  EXPECT_EQ(" a ", data.GetManagementSoftwareManufacturer());
+  EXPECT_EQ("1", data.GetDataTransferOrigin());
+  EXPECT_EQ("en", data.GetLanguage());
+  Task const& read = data.GetInnerTaskData(0).GetTask(0);
+  EXPECT_EQ("TSK1", read.GetId());
+  EXPECT_EQ("  x ", read.GetP007JobMetaData());
+}
+
+// ---- Hostile numbers ----
+
+TEST(Numbers, OfHundredsOfDigitsStayFinite) {
+  const std::string zeros(400, '0');
+  Root point;
+  ASSERT_EQ(0, read_document(point, "<PNT A=\"1\" C=\"1." + zeros + "\" D=\"1." + zeros + "\"/>").code);
+  EXPECT_EQ(1.0, point.GetPoint().GetNorth().get_as_float());
+  EXPECT_EQ("1." + zeros, point.GetPoint().GetNorth().get_as_string()) << "every digit is kept";
+  Root time;
+  ASSERT_EQ(0, read_document(time, "<TIM A=\"2024-01-01T00:00:05." + zeros + "\" D=\"1\"/>").code);
+  EXPECT_EQ("2024-01-01T00:00:05", time.GetTime().GetStart().get_as_string());
+}
+
+// ---- Cut off anywhere ----
+
+TEST(Documents, CutOffAnywhereAreRefused) {
+  const std::string document =
+      "<?xml version=\"1.0\"?>\n<ISO11783_TaskData VersionMajor=\"4\" VersionMinor=\"3\" "
+      "ManagementSoftwareManufacturer=\"a\" ManagementSoftwareVersion=\"1\" DataTransferOrigin=\"1\"><!-- c "
+      "-->"
+      "<CLD A=\"CLD1\"><CRG A=\"1\" B=\"2\" C=\"3\"/></CLD><Foo a='b'>t</Foo>"
+      "<TSK A=\"TSK1\" G=\"1\"><P917_comment>hi</P917_comment><TZN A=\"1\"/></TSK></ISO11783_TaskData>";
+  for (std::size_t length = 0; length != document.size(); ++length) {
+    const int code = read_document(document.substr(0, length)).code;
+    EXPECT_NE(0, code) << document.substr(0, length);
+    const std::vector<int> possible = {23, 34, 31, 10, 5, 29, 13, 21};
+    EXPECT_NE(possible.end(), std::find(possible.begin(), possible.end(), code))
+        << code << ": " << document.substr(0, length);
+  }
+  EXPECT_EQ(0, read_document(document).code);
+}
+
+}  // namespace
