@@ -10,3 +10,4 @@
 #include "GenLibrarySupportFiles/lmxparse/error_codes.h"          // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/getters.h"              // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"           // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxparse/stack_guard.h"          // IWYU pragma: export

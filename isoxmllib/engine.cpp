@@ -8,6 +8,7 @@ void begin_document(lmx::xmlReader& reader) {
   reader.m_code_file = code_file;
   reader.set_ns_map(no_namespaces);
   reader.m_skip_unknown = true;
+  reader.m_stack_guard.begin();
 }
 
 lmx::elmx_error read_top_tag(lmx::xmlReader& reader, char const* tag, int line, std::string* name) {
@@ -22,6 +23,14 @@ lmx::elmx_error read_top_tag(lmx::xmlReader& reader, char const* tag, int line, 
     return lmx::ELMX_OK;
   }
   return reader.report_error(lmx::ELMX_ELEMENT_NOT_FOUND, *name, code_file, line);
+}
+
+lmx::elmx_error refuse_depth(lmx::xmlReader& reader, int line) {
+  lmx::elmx_error error = reader.report_error(lmx::ELMX_BADLY_FORMED, reader.m_name, code_file, line);
+  if (error == lmx::ELMX_OK && !reader.skip_rest_of_element(reader.m_name)) {
+    error = reader.report_error(lmx::ELMX_BAD_END_OF_ELEMENT, reader.m_name, code_file, line);
+  }
+  return error;
 }
 
 lmx::elmx_error check_required(lmx::xmlReader& reader, char const* tag, int line, bool all_set) {

@@ -64,12 +64,16 @@ class element_helper final : public lmx::c_unmarshal_helper {
   lmx::xmlReader& mr_reader;
 };
 
+/// Reports 5 for an element that nests deeper than the stack allows; when that is tolerated, skips it.
+lmx::elmx_error refuse_depth(lmx::xmlReader& reader, int line);
+
 /// Reads an element whose start tag has been seen. `collect`, when it is not null, hands the finished
 /// element to the reader; an element that failed is not handed over.
 template <class X>
 lmx::elmx_error read_element(X& element, lmx::xmlReader& reader, std::string const& name,
                              element_shape const& shape, void (lmx::xmlReader::*collect)(X*) = nullptr) {
   if (&name != &reader.m_name) reader.m_name = name;
+  if (!reader.m_stack_guard.has_room()) return refuse_depth(reader, shape.line);
   lmx::s_known_elements const* const known =
       shape.known_elements != nullptr ? shape.known_elements : reader.mp_known_elements;
   lmx::c_known_elements_selector const selector(reader, known);

@@ -12,6 +12,7 @@
 #include "GenLibrarySupportFiles/lmxparse/c_error.h"
 #include "GenLibrarySupportFiles/lmxparse/c_xml.h"
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"
+#include "GenLibrarySupportFiles/lmxparse/stack_guard.h"
 
 namespace lmx {
 
@@ -153,6 +154,7 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   s_known_elements const* mp_known_elements = nullptr;  ///< The selected table, or null; borrowed.
   std::vector<char> m_name_stack;                       ///< Names of the open elements, each closed by a NUL.
   std::vector<std::size_t> m_name_offsets;              ///< Where each of them starts.
+  stack_guard m_stack_guard;                            ///< Refuses elements that nest too deep.
 
  private:
   bool p_is_known_element() const;

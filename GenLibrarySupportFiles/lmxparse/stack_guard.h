@@ -1,0 +1,22 @@
+// Nested elements are read by nested calls, and a document chooses how deep it nests. The guard knows how
+// much stack the thread really has, so that a document that nests too deep is refused and never runs over the
+// end.
+#pragma once
+
+#include "GenLibrarySupportFiles/lmxinternals/api.h"
+
+namespace lmx {
+
+/// Measures the stack of the thread that asks first. Used by one thread at a time, as its reader is.
+class ISOXML_API stack_guard {
+ public:
+  /// Takes the bounds of the calling thread's stack. Called where a document begins.
+  void begin();
+  /// True while there is room for one more level and all that it may call.
+  bool has_room();
+
+ private:
+  char const* mp_lowest = nullptr;  // no level may begin below this address
+};
+
+}  // namespace lmx
