@@ -9,5 +9,8 @@
 #include "GenLibrarySupportFiles/lmxparse/entity_name_readers.h"  // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/error_codes.h"          // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/getters.h"              // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxparse/internal_dtd.h"         // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxparse/limits.h"               // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"           // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/stack_guard.h"          // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxparse/transcoder.h"           // IWYU pragma: export

@@ -1,8 +1,9 @@
 // Between untyped reading and typed fields. A validation spec says how the text of one simple type is read,
-// checked and converted; a bridge shows one field to code that does not know its type. Bridges live on the
+// checked and converted, and how it is written; a bridge shows one field to code that does not know its type. Bridges live on the
 // stack for one call.
 #pragma once
 
+#include <iosfwd>
 #include <string>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -20,18 +21,21 @@ struct c_untyped_validation_spec {
   lexical_validator mp_lexical_validator;
 };
 
-/// The whole of it.
+/// The whole of it. A spec without an `o_to_v` can read but not write.
 template <class T>
 struct c_validation_spec : c_untyped_validation_spec {
   constexpr c_validation_spec(elmx_whitespace whitespace, char const* default_text, lexical_validator lexical,
                               elmx_error (*value)(c_xml_reader&, T const&),
-                              void (*convert)(T&, std::string const&))
+                              void (*convert)(T&, std::string const&),
+                              std::ostream& (*output)(std::ostream&, T const&) = nullptr)
       : c_untyped_validation_spec{whitespace, default_text, lexical},
         mp_value_validator(value),
-        mp_v_to_o(convert) {}
+        mp_v_to_o(convert),
+        mp_o_to_v(output) {}
 
   elmx_error (*mp_value_validator)(c_xml_reader& reader, T const& value);
   void (*mp_v_to_o)(T& value, std::string const& text);
+  std::ostream& (*mp_o_to_v)(std::ostream& out, T const& value);
 };
 
 /// For a type without content: any text is error 35.

@@ -36,13 +36,14 @@ void c_attribute_data::skip_value() {
 }
 
 c_xml::c_xml(c_read& read, c_error& error, bool normalize_char_refs)
-    : m_getter(read, error, normalize_char_refs) {
+    : m_getter(read, error, normalize_char_refs), m_internal_dtd(m_getter) {
   m_attributes.m_data.reserve(usual_attribute_bytes);
   m_ns_attributes.m_data.reserve(usual_attribute_bytes);
 }
 
 void c_xml::rewind() {
   m_namespaces.clear();
+  m_internal_dtd.reset();
   m_declaration_read = false;
   m_doctype_read = false;
   m_past_prolog = false;
@@ -156,16 +157,7 @@ bool c_xml::p_handle_doctype() {
                                  : "Document Type Declaration already read");
     return false;
   }
-  // Name and external identifier are passed over; quotes do not count.
-  for (;;) {
-    const int c = m_getter.get();
-    if (c == -1) return false;
-    if (c == '[') {
-      m_getter.error(EET_FATAL, ELMX_BAD_DTD, "Internal DTD subset not supported");
-      return false;
-    }
-    if (c == '>') break;
-  }
+  if (!m_internal_dtd.read_doctype_decl()) return false;
   m_doctype_read = true;
   return true;
 }

@@ -12,6 +12,7 @@
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxparse/getters.h"
+#include "GenLibrarySupportFiles/lmxparse/internal_dtd.h"
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"
 
 namespace lmx {
@@ -91,6 +92,14 @@ class ISOXML_API c_xml {
   bool attributes_cut_off() const { return m_attributes_cut_off; }
   c_get_for_xml& getter() { return m_getter; }
 
+  /// Declares an entity, as the internal subset would.
+  void add_general_entity(std::string const& name, std::string const& value) {
+    m_getter.add_general_entity(name, value);
+  }
+  void add_parameter_entity(std::string const& name, std::string const& value) {
+    m_getter.add_parameter_entity(name, value);
+  }
+
   int find_enumerated_namespace(std::string const& uri) const { return m_namespaces.find_namespace(uri); }
   int add_namespace(char const* uri) { return m_namespaces.add_namespace(uri); }
   void add_namespace(char const* uri, int id) { m_namespaces.add_namespace(uri, id); }
@@ -119,6 +128,7 @@ class ISOXML_API c_xml {
   void p_declare_namespace(c_xml_local* local, std::string const& prefix, char const* raw_uri);
 
   c_get_for_xml m_getter;
+  c_internal_dtd m_internal_dtd;
   c_enumerated_namespaces m_namespaces;
   bool m_declaration_read = false;
   bool m_doctype_read = false;

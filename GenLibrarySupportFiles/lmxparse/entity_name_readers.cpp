@@ -40,4 +40,15 @@ void c_entity_name_reader_for_c_str::unget(int c_in) {
                   "c_in == static_cast<unsigned char>( mp_string[m_index] )");
 }
 
+int c_entity_name_reader_for_entity::get() {
+  const int c = static_cast<unsigned char>(**mp_position);
+  if (c == 0) return -1;
+  ++*mp_position;
+  return c;
+}
+
+void c_entity_name_reader_for_entity::unget(int c) {
+  if (c != -1 && *mp_position != mp_start) --*mp_position;
+}
+
 }  // namespace lmx

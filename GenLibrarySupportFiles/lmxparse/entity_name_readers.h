@@ -61,4 +61,18 @@ class ISOXML_API c_entity_name_reader_for_c_str : public c_entity_name_reader {
   std::size_t m_index;
 };
 
+/// Reads a reference in an entity's value, moving the caller's position.
+class ISOXML_API c_entity_name_reader_for_entity : public c_entity_name_reader {
+ public:
+  /// `position` is borrowed; it points into NUL-terminated text.
+  explicit c_entity_name_reader_for_entity(char const** position)
+      : mp_position(position), mp_start(*position) {}
+  int get() override;
+  void unget(int c) override;
+
+ private:
+  char const** mp_position;
+  char const* mp_start;
+};
+
 }  // namespace lmx

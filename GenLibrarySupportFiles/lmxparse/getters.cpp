@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "GenLibrarySupportFiles/lmxparse/entity_name_readers.h"
+#include "GenLibrarySupportFiles/lmxparse/limits.h"
 
 namespace lmx {
 
@@ -51,15 +52,27 @@ int byte_at(char const* bytes, int index) { return static_cast<unsigned char>(by
 
 constexpr int next_line = 0x85;         // NEL
 constexpr int line_separator = 0x2028;  // both end a line like LF
-constexpr int max_char_ref = 0x100000;  // the highest code point that a reference may name
+
+c_external_transcoder_factory const* default_factory = nullptr;
 
 }  // namespace
 
 // ---- c_get_as_utf8 ----
 
-c_get_as_utf8::c_get_as_utf8(c_read& read, c_error& error) : mr_read(read), mr_error(error), m_binder(error) {
+c_external_transcoder::~c_external_transcoder() = default;
+
+c_external_transcoder_factory::~c_external_transcoder_factory() = default;
+
+c_get_as_utf8::c_get_as_utf8(c_read& read, c_error& error)
+    : mr_read(read), mr_error(error), m_binder(error), mp_factory(default_factory) {
   m_binder.bind(this);
 }
+
+void c_get_as_utf8::set_default_external_transcoder_factory(c_external_transcoder_factory const& factory) {
+  default_factory = &factory;
+}
+
+void c_get_as_utf8::clear_default_external_transcoder_factory() { default_factory = nullptr; }
 
 void c_get_as_utf8::rewind() {
   m_line = 1;
@@ -69,6 +82,8 @@ void c_get_as_utf8::rewind() {
   m_utf8_buffer[0] = '\0';
   mp_pending = nullptr;
   m_pending_end = false;
+  m_bytes_read = 0;
+  mp_transcoder.reset();
   mr_read.rewind();
 }
 
@@ -104,7 +119,13 @@ int c_get_as_utf8::p_get() {
     m_pending_end = false;
     return -1;
   }
-  return p_read_local_transcoded();
+  return m_encoding == EXCE_EXTERNAL ? p_read_external_transcoded() : p_read_local_transcoded();
+}
+
+int c_get_as_utf8::p_read_external_transcoded() {
+  const auto [first, further] = mp_transcoder->read();
+  mp_pending = further != nullptr && *further != '\0' ? further : nullptr;
+  return first;
 }
 
 int c_get_as_utf8::p_read_local_transcoded() {
@@ -255,13 +276,22 @@ bool c_get_as_utf8::set_encoding(char const* name) {
   } else if (is("UTF-16")) {
     fits = is_utf16;
   } else {
-    error(EET_FATAL, ELMX_BAD_CHAR_ENCODING, "Unknown character encoding specified");
-    return false;
+    return p_set_external_encoding(name);
   }
   if (!fits) {
     error(EET_FATAL, ELMX_ENCODING_MISMATCH, "Mis-match between specfied encoding and byte format");
   }
   return fits;
+}
+
+bool c_get_as_utf8::p_set_external_encoding(char const* name) {
+  if (mp_factory != nullptr) mp_transcoder.reset(mp_factory->create(mr_read, mr_error, m_encoding, name));
+  if (mp_transcoder == nullptr) {
+    error(EET_FATAL, ELMX_BAD_CHAR_ENCODING, "Unknown character encoding specified");
+    return false;
+  }
+  m_encoding = EXCE_EXTERNAL;
+  return true;
 }
 
 // ---- UTF-8 ----
@@ -337,7 +367,103 @@ c_get_with_entities::c_get_with_entities(c_read& read, c_error& error, bool norm
 
 void c_get_with_entities::rewind() {
   set_ws_mode(EXWS_PRESERVE);
+  m_active.clear();  // first: it points into the values
+  m_expanding.clear();
+  m_general_entities.clear();
+  m_parameter_entities.clear();
+  m_entity_values.clear();
+  m_expanded = 0;
   c_get_as_utf8::rewind();
+}
+
+int c_get_with_entities::p_get_from_entity() {
+  if (has_fatal()) return -1;
+  for (; !m_active.empty(); m_active.pop_back()) {
+    c_dtd_active_entity& top = m_active.back();
+    if (!top.unget_buffer().empty()) return top.unget_buffer().get();
+    if (!top.at_end()) return p_charge(1) ? top.get() : -1;
+  }
+  return c_get_as_utf8::get();
+}
+
+void c_get_with_entities::unget(int c) {
+  if (m_active.empty()) {
+    c_get_as_utf8::unget(c);
+  } else if (c != -1 && !has_fatal()) {
+    m_active.back().unget_buffer().unget(c);
+  }
+}
+
+// ---- Entities ----
+
+void c_get_with_entities::p_add_entity(entities* to, std::string const& name, std::string const& value) {
+  m_entity_values.push_back(value);
+  to->set(name, &m_entity_values.back());
+}
+
+void c_get_with_entities::add_general_entity(std::string const& name, std::string const& value) {
+  p_add_entity(&m_general_entities, name, value);
+}
+
+void c_get_with_entities::add_parameter_entity(std::string const& name, std::string const& value) {
+  p_add_entity(&m_parameter_entities, name, value);
+}
+
+bool c_get_with_entities::select_parameter_entity(std::string const& name, bool* known) {
+  std::string const* const* const value = m_parameter_entities.find(name);
+  *known = value != nullptr;
+  return value == nullptr || p_set_input_entity_value(**value);
+}
+
+bool c_get_with_entities::p_refuse_entity(std::string const& message) {
+  error(EET_FATAL, ELMX_BAD_DTD, message);
+  return false;
+}
+
+// Entities can make much out of little. What they may cost grows with the document; a small one has a free
+// start.
+bool c_get_with_entities::p_charge(unsigned long long cost) {
+  m_expanded += cost;
+  if (m_expanded <= limits::free_expansion || m_expanded / limits::expansion_factor <= bytes_read())
+    return true;
+  return p_refuse_entity("Entity expansion out of proportion");
+}
+
+// The entity's text is read next, markup included.
+bool c_get_with_entities::p_set_input_entity_value(std::string const& value) {
+  for (c_dtd_active_entity const& active : m_active) {
+    if (active.value() == value.c_str()) return p_refuse_entity("Recursive entity definition for: " + value);
+  }
+  if (m_active.size() == limits::active_entities) return p_refuse_entity("Entities nested too deep");
+  if (!p_charge(limits::reference_cost)) return false;
+  m_active.emplace_back(value.c_str());
+  return true;
+}
+
+// The entity's text is appended. "&" and "%" alike start a reference in it, and the character right after
+// such a reference is dropped: kept, existing data relies on it.
+bool c_get_with_entities::p_append_entity(std::string const& value, std::string* out) {
+  for (std::string const* expanding : m_expanding) {
+    if (expanding == &value) return p_refuse_entity("Recursive entity definition for: " + value);
+  }
+  if (m_expanding.size() == limits::nested_entities_in_values)
+    return p_refuse_entity("Entities nested too deep");
+  if (!p_charge(limits::reference_cost)) return false;
+  m_expanding.push_back(&value);
+  bool good = true;
+  for (char const* p = value.c_str(); good && *p != '\0'; ++p) {
+    if (*p != '&' && *p != '%') {
+      add_char_wsp(out, byte_at(p, 0), false);
+      good = p_charge(1);
+      continue;
+    }
+    ++p;
+    c_entity_name_reader_for_entity reader(&p);
+    good = select_general_entity(reader, out);
+    if (*p == '\0') break;
+  }
+  m_expanding.pop_back();
+  return good;
 }
 
 void c_get_with_entities::add_char_wsp(std::string* out, int c, bool is_char_ref) {
@@ -399,6 +525,11 @@ bool c_get_with_entities::select_general_entity(c_entity_name_reader& reader, st
       return true;
     }
   }
+  if (std::string const* const* const value = m_general_entities.find(name)) {
+    if (!reader.m_push_as_input) return p_append_entity(**value, out);
+    p_set_input_entity_value(**value);  // a refusal is fatal, and shows as the end of the input
+    return true;
+  }
   out->push_back('&');
   out->append(name);
   if (c == ';') out->push_back(';');
@@ -415,11 +546,12 @@ bool c_get_with_entities::insert_character_entity(c_entity_name_reader& reader, 
   while (is_hex ? is_hex_digit(c) : is_digit(c)) {
     has_digits = true;
     const int digit = is_digit(c) ? c - '0' : to_lower(c) - 'a' + 10;
-    if (value <= max_char_ref) value = value * base + digit;  // beyond the limit it only has to stay there
+    if (value <= limits::highest_char_ref)
+      value = value * base + digit;  // beyond the limit it only has to stay there
     c = reader.get();
   }
   if (c != ';') reader.unget(c);
-  if (!has_digits || value > max_char_ref) return false;
+  if (!has_digits || value > limits::highest_char_ref) return false;
   if (value == next_line || value == line_separator) {
     add_char_wsp(out, '\n', true);
   } else if (value <= 0x7F) {

@@ -7,12 +7,17 @@
 // in bulk through `plain_window`, which is empty whenever anything out of the ordinary is going on.
 #pragma once
 
+#include <deque>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxinternals/c_repository.h"
 #include "GenLibrarySupportFiles/lmxinternals/characters.h"
 #include "GenLibrarySupportFiles/lmxparse/c_error.h"
 #include "GenLibrarySupportFiles/lmxparse/c_read.h"
+#include "GenLibrarySupportFiles/lmxparse/transcoder.h"
 
 namespace lmx {
 
@@ -23,18 +28,6 @@ enum elmx_whitespace : int {
   EXWS_PRESERVE = 0,  ///< Characters are kept as they are.
   EXWS_REPLACE = 1,   ///< Each white space character becomes one blank.
   EXWS_COLLAPSE = 2,  ///< Runs become one blank; leading and trailing white space goes.
-};
-
-/// How the source's bytes are read. Found from the first bytes; the XML declaration may narrow it.
-enum elxp_char_encoding : int {
-  EXCE_UNKNOWN = 0,      ///< Nothing read yet.
-  EXCE_SINGLE_BYTE = 1,  ///< ISO-8859-1 or US-ASCII: each byte is a code point.
-  EXCE_UTF8 = 2,
-  EXCE_UTF16_BE = 3,
-  EXCE_UTF16_LE = 4,
-  EXCE_UCS2_BE = 5,  ///< Two bytes a character, no surrogates.
-  EXCE_UCS2_LE = 6,
-  EXCE_EXTERNAL = 7,  ///< A host's transcoder delivers the bytes.
 };
 
 /// Up to three characters pushed back, last in first out. A fourth stops the process.
@@ -88,6 +81,16 @@ class ISOXML_API c_get_as_utf8 {
   /// 1 plus the line ends delivered so far. May run ahead of the true line (see `unget`).
   int line() const { return m_line; }
   elxp_char_encoding encoding() const { return m_encoding; }
+  /// Chooses who is asked for encodings that are not known here; every getter made from then on takes it
+  /// over. Not guarded: set it before readers are made. The factory is borrowed until it is cleared.
+  static void set_default_external_transcoder_factory(c_external_transcoder_factory const& factory);
+  static void clear_default_external_transcoder_factory();
+  /// The same for this getter alone.
+  void set_external_transcoder_factory(c_external_transcoder_factory const& factory) {
+    mp_factory = &factory;
+  }
+  void clear_external_transcoder_factory() { mp_factory = nullptr; }
+
   /// Applies the name of an XML declaration to the encoding found from the bytes. A name that does not
   /// fit them is fatal 15, an unknown one fatal 6; the result is then false.
   bool set_encoding(char const* name);
@@ -102,18 +105,25 @@ class ISOXML_API c_get_as_utf8 {
   /// Takes the bytes of the last `plain_window` before `up_to`.
   void consume_plain(unsigned char const* up_to) {
     if (up_to == nullptr || up_to == mr_read.mp_next) return;
+    m_bytes_read += static_cast<unsigned long long>(up_to - mr_read.mp_next);
     mr_read.mp_next = up_to;
     m_last_char = ' ';  // any plain byte: what matters is that it was no CR
   }
 
  protected:
   bool has_fatal() const { return mr_error.has_fatal(); }
-  c_error& error_sink() { return mr_error; }
+  /// How many bytes the source has delivered since the start.
+  unsigned long long bytes_read() const { return m_bytes_read; }
 
  private:
-  int p_next_byte() { return mr_read.mp_next != mr_read.mp_end ? *mr_read.mp_next++ : mr_read.get(); }
+  int p_next_byte() {
+    ++m_bytes_read;
+    return mr_read.mp_next != mr_read.mp_end ? *mr_read.mp_next++ : mr_read.get();
+  }
   int p_get();
   int p_read_local_transcoded();
+  int p_read_external_transcoded();
+  bool p_set_external_encoding(char const* name);
   int p_resolve_initial_character_encoding(int first);
   int p_read_utf16(int first);
   int p_convert_utf16_bytes(int first, int second) const;
@@ -126,12 +136,15 @@ class ISOXML_API c_get_as_utf8 {
   c_error& mr_error;
   c_getter_error_binder m_binder;
   elxp_char_encoding m_encoding = EXCE_UNKNOWN;
+  c_external_transcoder_factory const* mp_factory;
+  std::unique_ptr<c_external_transcoder> mp_transcoder;
   int m_last_char = 0;  // the last raw character, to fold CR LF
   c_unget_buffer m_unget;
   char m_utf8_buffer[8] = {};        // the multi-byte character under delivery
   char const* mp_pending = nullptr;  // its bytes still to deliver, or null
   bool m_pending_end = false;        // one -1 is to be delivered
   int m_line = 1;
+  unsigned long long m_bytes_read = 0;
 };
 
 /// Encodes `code_point` as UTF-8 with a closing NUL; one to four bytes, no range check. Returns `out`.
@@ -142,12 +155,52 @@ ISOXML_API bool utf8_to_unicode_char(char const* bytes, int* out);
 /// True when the first two bytes can begin a UTF-8 character. Further bytes are not looked at.
 ISOXML_API bool is_valid_utf8_char_sequence(char const* bytes);
 
+/// One entity whose text is being read.
+class ISOXML_API c_dtd_active_entity {
+ public:
+  /// `value` is borrowed and NUL-terminated.
+  explicit c_dtd_active_entity(char const* value) : p_current(value), mp_value(value) {}
+
+  bool at_end() const { return *p_current == '\0'; }
+  int get() {
+    LMX_ASSERT(*p_current != '\0');
+    return static_cast<unsigned char>(*p_current++);
+  }
+  /// Where the value starts, by which a recursion is known.
+  char const* value() const { return mp_value; }
+  c_unget_buffer& unget_buffer() { return m_unget; }
+
+ private:
+  char const* p_current;
+  char const* mp_value;
+  c_unget_buffer m_unget;  // what is pushed back inside an entity stays with it
+};
+
 class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
  public:
   /// `normalize_char_refs`: white space written as a character reference counts as white space.
   c_get_with_entities(c_read& read, c_error& error, bool normalize_char_refs);
 
   void rewind();
+
+  /// The next character, from the innermost active entity if there is one. Line numbers count real input
+  /// only.
+  int get() {
+    if (m_active.empty()) return c_get_as_utf8::get();
+    return p_get_from_entity();
+  }
+  void unget(int c);
+  byte_window plain_window() const {
+    return m_active.empty() ? c_get_as_utf8::plain_window() : byte_window{nullptr, nullptr};
+  }
+  /// How many entities are being read as input.
+  std::size_t active_entities() const { return m_active.size(); }
+
+  /// Declares an entity. The last declaration wins, but a value that is being read is read to its end.
+  void add_general_entity(std::string const& name, std::string const& value);
+  void add_parameter_entity(std::string const& name, std::string const& value);
+  /// Makes the text of the parameter entity the next input. `*known` tells whether there is one.
+  bool select_parameter_entity(std::string const& name, bool* known);
 
   /// Sets the mode for the value that comes next and forgets a blank still pending.
   void set_ws_mode(elmx_whitespace mode) {
@@ -168,8 +221,23 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   bool insert_character_entity(c_entity_name_reader& reader, std::string* out);
 
  private:
+  using entities = c_repository<std::string const*>;
+
+  int p_get_from_entity();
+  void p_add_entity(entities* to, std::string const& name, std::string const& value);
+  bool p_set_input_entity_value(std::string const& value);
+  bool p_append_entity(std::string const& value, std::string* out);
+  bool p_charge(unsigned long long cost);
+  bool p_refuse_entity(std::string const& message);
+
   const bool m_normalize_char_refs;
   std::string m_entity_name;
+  std::vector<c_dtd_active_entity> m_active;    // read as input, innermost last
+  std::vector<std::string const*> m_expanding;  // expanded as text, innermost last
+  std::deque<std::string> m_entity_values;      // kept until the document ends: readers point into them
+  entities m_general_entities;
+  entities m_parameter_entities;
+  unsigned long long m_expanded = 0;  // what entities have cost so far
   elmx_whitespace m_ws_mode = EXWS_PRESERVE;
   bool m_pending_space = false;
 };

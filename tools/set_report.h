@@ -1,0 +1,19 @@
+// What every command that opens a transfer set says about its documents, however it shows the rest.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <ostream>
+#include <vector>
+
+#include "tools/exit_status.h"
+#include "transfer/IsoXmlParser.h"
+
+/// AllGood, SomeFailed, or NoResult when the main document, which is the first, is among those that failed.
+ExitStatus status_of(std::vector<IsoDocument> const& documents);
+
+/// One line for each document that failed, "file:line: code: text", with " (item)" where an item within the
+/// document is known.
+void print_failures(std::vector<IsoDocument> const& documents, std::ostream& out);
+
+/// The same as an array, with the reader's full message.
+nlohmann::ordered_json failures_as_json(std::vector<IsoDocument> const& documents);
