@@ -6,6 +6,7 @@
 #include "GenLibrarySupportFiles/lmxparse/c_unmarshal_helper.h"   // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/c_xml.h"                // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"         // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxparse/c_xml_writer.h"         // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/entity_name_readers.h"  // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/error_codes.h"          // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/getters.h"              // IWYU pragma: export
@@ -14,3 +15,4 @@
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"           // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/stack_guard.h"          // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxparse/transcoder.h"           // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxparse/value_output.h"         // IWYU pragma: export

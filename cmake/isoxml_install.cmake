@@ -1,4 +1,4 @@
-# Installation: library, headers, tool, CMake package `isoxml` and pkg-config file. Nothing installed
+# Installation: library, headers, tool, XML Schema, CMake package `isoxml` and pkg-config file. Nothing installed
 # names the prefix, so an installed tree may be moved.
 
 include(CMakePackageConfigHelpers)
@@ -9,6 +9,7 @@ set(isoxml_PKGCONFIGDIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 install(TARGETS isoxml EXPORT isoxmlTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/isoxml)
+install(FILES ${PROJECT_SOURCE_DIR}/schema/isoxml.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/isoxml)
 if(TARGET isoxml_tool)
   file(RELATIVE_PATH bin_to_lib ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
   set_target_properties(isoxml_tool PROPERTIES INSTALL_RPATH $ORIGIN/${bin_to_lib})

@@ -12,7 +12,7 @@
 #include "GenLibrarySupportFiles/lmxtypes/c_decimal.h"
 #include "GenLibrarySupportFiles/lmxtypes/date_time.h"
 
-/// At least 12 characters (20), at most 12 characters (19), pattern ([0-9]|[a-z]){8}.([0-9]|[a-z]){3} (22).
+/// At least 12 characters (20), at most 12 characters (19), pattern ([0-9]|[A-Z]){8}.([0-9]|[A-Z]){3} (22).
 ISOXML_API lmx::elmx_error LexicalValidator1(lmx::c_xml_reader& reader, std::string const& text);
 /// Accepts every text.
 ISOXML_API lmx::elmx_error LexicalValidator2(lmx::c_xml_reader& reader, std::string const& text);
@@ -35,59 +35,59 @@ ISOXML_API lmx::elmx_error LexicalValidator10(lmx::c_xml_reader& reader, std::st
 /// Integer (35), from 0 (37) to 254 (36).
 ISOXML_API lmx::elmx_error LexicalValidator11(lmx::c_xml_reader& reader, std::string const& text);
 /// At least 8 characters (20), at most 8 characters (19), pattern
-/// (bsn|ccg|cct|cld|cpc|ctp|ctr|dvc|frm|otq|pdt|pfd|pgp|tsk|vpn|wkr)[0-9][0-9][0-9][0-9][0-9] (22).
+/// (BSN|CCG|CCT|CLD|CPC|CTP|CTR|DVC|FRM|OTQ|PDT|PFD|PGP|TSK|VPN|WKR)[0-9][0-9][0-9][0-9][0-9] (22).
 ISOXML_API lmx::elmx_error LexicalValidator12(lmx::c_xml_reader& reader, std::string const& text);
 /// Date_time (35).
 ISOXML_API lmx::elmx_error LexicalValidator13(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (bsn|bsn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (BSN|BSN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator14(lmx::c_xml_reader& reader, std::string const& text);
 /// Decimal (35).
 ISOXML_API lmx::elmx_error LexicalValidator15(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from -2147483647 (37) to 2147483647 (36).
 ISOXML_API lmx::elmx_error LexicalValidator16(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cct|cct-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CCT|CCT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator17(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ccg|ccg-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CCG|CCG-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator18(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ccg|ccg-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CCG|CCG-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator19(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ccl|ccl-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CCL|CCL-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator20(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cld|cld-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CLD|CLD-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator21(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cct|cct-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CCT|CCT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator22(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ccl|ccl-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CCL|CCL-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator23(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (dvc|dvc-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DVC|DVC-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator24(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator25(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (dvc|dvc-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DVC|DVC-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator26(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator27(lmx::c_xml_reader& reader, std::string const& text);
 /// Hex (35), pattern
-/// ((([0-9]|[a-e]|[a-e])([0-9]|[a-f]|[a-f]))|((f|f)([0-9]|[a-e]|[a-e]))){7}(([0-9]|[a-f]|[a-f])([0-9]|[a-f]|[a-f]))*
+/// ((([0-9]|[a-e]|[A-E])([0-9]|[a-f]|[A-F]))|((F|f)([0-9]|[a-e]|[A-E]))){7}(([0-9]|[a-f]|[A-F])([0-9]|[a-f]|[A-F]))*
 /// (22).
 ISOXML_API lmx::elmx_error LexicalValidator28(lmx::c_xml_reader& reader, std::string const& text);
 /// Hex (35), pattern
-/// ((([0-9]|[a-e]|[a-e])([0-9]|[a-f]|[a-f]))|((f|f)([0-9]|[a-e]|[a-e]))){7}(([0-9]|[a-f]|[a-f])([0-9]|[a-f]|[a-f]))*
+/// ((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e]))){7}(([0-9]|[A-F]|[a-f])([0-9]|[A-F]|[a-f]))*
 /// (22).
 ISOXML_API lmx::elmx_error LexicalValidator29(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 0 (37) to 4095 (36).
 ISOXML_API lmx::elmx_error LexicalValidator30(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ctp|ctp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CTP|CTP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator31(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pgp|pgp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PGP|PGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator32(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cvt|cvt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CVT|CVT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator33(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pdt|pdt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PDT|PDT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator34(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cpc|cpc-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CPC|CPC-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator35(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ctr|ctr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CTR|CTR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator36(lmx::c_xml_reader& reader, std::string const& text);
 /// At most 10 characters (19).
 ISOXML_API lmx::elmx_error LexicalValidator37(lmx::c_xml_reader& reader, std::string const& text);
@@ -103,27 +103,27 @@ ISOXML_API lmx::elmx_error LexicalValidator41(lmx::c_xml_reader& reader, std::st
 ISOXML_API lmx::elmx_error LexicalValidator42(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 0 (37) to 60000 (36).
 ISOXML_API lmx::elmx_error LexicalValidator43(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator44(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (vpn|vpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (VPN|VPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator45(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 0 (37) to 262143 (36).
 ISOXML_API lmx::elmx_error LexicalValidator46(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from -2147483648 (37) to 2147483647 (36).
 ISOXML_API lmx::elmx_error LexicalValidator47(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator48(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (dvc|dvc-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DVC|DVC-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator49(lmx::c_xml_reader& reader, std::string const& text);
 /// Hex (35), pattern
-/// ((([0-9]|[a-e]|[a-e])([0-9]|[a-f]|[a-f]))|((f|f)([0-9]|[a-e]|[a-e]))){7}(([0-9]|[a-f]|[a-f])([0-9]|[a-f]|[a-f]))*
+/// ((([0-9]|[a-e]|[A-E])([0-9]|[a-f]|[A-F]))|((F|f)([0-9]|[a-e]|[A-E]))){7}(([0-9]|[a-f]|[A-F])([0-9]|[a-f]|[A-F]))*
 /// (22).
 ISOXML_API lmx::elmx_error LexicalValidator50(lmx::c_xml_reader& reader, std::string const& text);
-/// Hex (35), pattern (f|f){2}((([0-9]|[a-e]|[a-e])([0-9]|[a-f]|[a-f]))|((f|f)([0-9]|[a-e]|[a-e])))* (22).
+/// Hex (35), pattern (F|f){2}((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e])))* (22).
 ISOXML_API lmx::elmx_error LexicalValidator51(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (dvc|dvc-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DVC|DVC-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator52(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator53(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 1 (37) to 65534 (36).
 ISOXML_API lmx::elmx_error LexicalValidator54(lmx::c_xml_reader& reader, std::string const& text);
@@ -133,117 +133,117 @@ ISOXML_API lmx::elmx_error LexicalValidator55(lmx::c_xml_reader& reader, std::st
 ISOXML_API lmx::elmx_error LexicalValidator56(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 0 (37) to 31 (36).
 ISOXML_API lmx::elmx_error LexicalValidator57(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (frm|frm-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (FRM|FRM-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator58(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ctr|ctr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CTR|CTR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator59(lmx::c_xml_reader& reader, std::string const& text);
 /// Real (35).
 ISOXML_API lmx::elmx_error LexicalValidator60(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 0 (37) to 4294967295 (36).
 ISOXML_API lmx::elmx_error LexicalValidator61(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 8 characters (20), at most 8 characters (19), pattern grd[0-9][0-9][0-9][0-9][0-9] (22).
+/// At least 8 characters (20), at most 8 characters (19), pattern GRD[0-9][0-9][0-9][0-9][0-9] (22).
 ISOXML_API lmx::elmx_error LexicalValidator62(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ggp|ggp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (GGP|GGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator63(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ggp|ggp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (GGP|GGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator64(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (gpn|gpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (GPN|GPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator65(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (bsn|bsn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (BSN|BSN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator66(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ggp|ggp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (GGP|GGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator67(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (gpn|gpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (GPN|GPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator68(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (lsg|lsg-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (LSG|LSG-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator69(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (otq|otq-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (OTQ|OTQ-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator70(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (otq|otq-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (OTQ|OTQ-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator71(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cpc|cpc-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CPC|CPC-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator72(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (otq|otq-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (OTQ|OTQ-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator73(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pfd|pfd-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PFD|PFD-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator74(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ctr|ctr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CTR|CTR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator75(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (frm|frm-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (FRM|FRM-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator76(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ctp|ctp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CTP|CTP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator77(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cvt|cvt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CVT|CVT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator78(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pfd|pfd-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PFD|PFD-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator79(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pnt|pnt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PNT|PNT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator80(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 8 characters (20), at most 8 characters (19), pattern pnt([0-9]){5} (22).
+/// At least 8 characters (20), at most 8 characters (19), pattern PNT([0-9]){5} (22).
 ISOXML_API lmx::elmx_error LexicalValidator81(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pln|pln-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PLN|PLN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator82(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pdt|pdt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PDT|PDT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator83(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator84(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (vpn|vpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (VPN|VPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator85(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 12 characters (20), at most 12 characters (19), pattern ([0-9]|[a-z]){8}.([0-9]|[a-z]){3} (22).
+/// At least 12 characters (20), at most 12 characters (19), pattern ([0-9]|[A-Z]){8}.([0-9]|[A-Z]){3} (22).
 ISOXML_API lmx::elmx_error LexicalValidator86(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pdt|pdt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PDT|PDT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator87(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pgp|pgp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PGP|PGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator88(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (vpn|vpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (VPN|VPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator89(lmx::c_xml_reader& reader, std::string const& text);
 /// Integer (35), from 0 (37) to 2147483647 (36).
 ISOXML_API lmx::elmx_error LexicalValidator90(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pdt|pdt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PDT|PDT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator91(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (det|det-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (DET|DET-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator92(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (vpn|vpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (VPN|VPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator93(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pdt|pdt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PDT|PDT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator94(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pgp|pgp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PGP|PGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator95(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pdt|pdt-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PDT|PDT-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator96(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (vpn|vpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (VPN|VPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator97(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (tsk|tsk-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (TSK|TSK-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator98(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (ctr|ctr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CTR|CTR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator99(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (frm|frm-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (FRM|FRM-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator100(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (pfd|pfd-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (PFD|PFD-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator101(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (wkr|wkr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (WKR|WKR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator102(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 8 characters (20), at most 8 characters (19), pattern tlg[0-9][0-9][0-9][0-9][0-9] (22).
+/// At least 8 characters (20), at most 8 characters (19), pattern TLG[0-9][0-9][0-9][0-9][0-9] (22).
 ISOXML_API lmx::elmx_error LexicalValidator103(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (vpn|vpn-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (VPN|VPN-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator104(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (cld|cld-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (CLD|CLD-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator105(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (wkr|wkr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (WKR|WKR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator106(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (wkr|wkr-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (WKR|WKR-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator107(lmx::c_xml_reader& reader, std::string const& text);
-/// Pattern [a-fa-f0-9]{8}-[a-fa-f0-9]{4}-[a-fa-f0-9]{4}-[a-fa-f0-9]{4}-[a-fa-f0-9]{12} (22).
+/// Pattern [a-fA-F0-9]{8}-[a-fA-F0-9]{4}-[a-fA-F0-9]{4}-[a-fA-F0-9]{4}-[a-fA-F0-9]{12} (22).
 ISOXML_API lmx::elmx_error LexicalValidator108(lmx::c_xml_reader& reader, std::string const& text);
 /// Pattern boolean|string|datetime|integer|decimal|list (22).
 ISOXML_API lmx::elmx_error LexicalValidator109(lmx::c_xml_reader& reader, std::string const& text);
 /// At least 4 characters (20), at most 14 characters (19), pattern
-/// ((bsn|cct|ccg|cld|ctp|cpc|ctr|dvc|frm|ggp|gpn|otq|pfd|pdt|pgp|pln|tsk|vpn|wkr)(|-)([0-9])+)|(([0-9a-z]){1,10}\.([0-9a-z.]){1,10})
+/// ((BSN|CCT|CCG|CLD|CTP|CPC|CTR|DVC|FRM|GGP|GPN|OTQ|PFD|PDT|PGP|PLN|TSK|VPN|WKR)(|-)([0-9])+)|(([0-9A-Z]){1,10}\.([0-9A-Z.]){1,10})
 /// (22).
 ISOXML_API lmx::elmx_error LexicalValidator110(lmx::c_xml_reader& reader, std::string const& text);
 /// At most 255 characters (19).
 ISOXML_API lmx::elmx_error LexicalValidator111(lmx::c_xml_reader& reader, std::string const& text);
-/// At least 4 characters (20), at most 14 characters (19), pattern (lgp|lgp-)([0-9])+ (22).
+/// At least 4 characters (20), at most 14 characters (19), pattern (LGP|LGP-)([0-9])+ (22).
 ISOXML_API lmx::elmx_error LexicalValidator112(lmx::c_xml_reader& reader, std::string const& text);
 /// At most 64 characters (19).
 ISOXML_API lmx::elmx_error LexicalValidator113(lmx::c_xml_reader& reader, std::string const& text);

@@ -654,7 +654,8 @@ def lexical_doc(rule):
              f"pattern {rule.pattern} (22)" if rule.pattern else None,
              f"from {rule.minimum} (37) to {rule.maximum} (36)" if rule.minimum is not None else None]
     words = [word for word in words if word]
-    return (", ".join(words) if words else "accepts every text").capitalize() + "."
+    text = ", ".join(words) if words else "accepts every text"
+    return text[0].upper() + text[1:] + "."
 
 
 def value_rule_doc(rule):

@@ -240,7 +240,8 @@ ExitStatus show_info(SetArguments const& arguments, bool json) {
 }  // namespace
 
 RunCommand prepare_info(CLI::App& options) {
+  auto arguments = add_set_arguments(options);
   auto json = std::make_shared<bool>(false);
   options.add_flag("--json", *json, "Print one JSON document instead of text");
-  return [json](SetArguments const& arguments) { return show_info(arguments, *json); };
+  return [arguments, json] { return show_info(*arguments, *json); };
 }

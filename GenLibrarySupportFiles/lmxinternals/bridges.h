@@ -1,6 +1,6 @@
 // Between untyped reading and typed fields. A validation spec says how the text of one simple type is read,
-// checked and converted, and how it is written; a bridge shows one field to code that does not know its type. Bridges live on the
-// stack for one call.
+// checked, converted and written; a bridge shows one field to code that does not know its type. Bridges live
+// on the stack for one call.
 #pragma once
 
 #include <iosfwd>

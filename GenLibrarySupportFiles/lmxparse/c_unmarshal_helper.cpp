@@ -81,7 +81,6 @@ elmx_error c_unmarshal_helper::p_unmarshal_all_attributes() {
     if (taken) continue;
     error = p_handle_unknown_attribute();
     if (error != ELMX_OK) return error;
-    mr_reader.skip_attribute_value();
   }
   return unmarshal_attributes_check();
 }
@@ -89,12 +88,30 @@ elmx_error c_unmarshal_helper::p_unmarshal_all_attributes() {
 // An attribute of the schema instance namespace is never unknown.
 elmx_error c_unmarshal_helper::p_handle_unknown_attribute() {
   std::string const& name = mr_reader.m_name;
-  if (mr_reader.is_xsi_attribute(mr_reader.mp_local, name)) return ELMX_OK;
-  if (!mr_reader.m_skip_unknown) return p_report(ELMX_UNEXPECTED_ATTRIBUTE, name);
-  const elmx_error veto =
-      mr_reader.on_unknown_attribute(name, mr_reader.m_name_stack, m_code_file, m_code_line);
-  if (veto != ELMX_OK) mr_reader.capture_error(veto, name, m_code_file, m_code_line);
-  return veto;
+  elmx_error error = ELMX_OK;
+  if (!mr_reader.is_xsi_attribute(mr_reader.mp_local, name)) {
+    if (mp_any_attributes != nullptr) return p_keep_any_attribute();
+    if (mr_reader.m_skip_unknown) {
+      error = mr_reader.on_unknown_attribute(name, mr_reader.m_name_stack, m_code_file, m_code_line);
+      if (error != ELMX_OK) mr_reader.capture_error(error, name, m_code_file, m_code_line);
+    } else {
+      error = p_report(ELMX_UNEXPECTED_ATTRIBUTE, name);
+    }
+  }
+  if (error == ELMX_OK) mr_reader.skip_attribute_value();
+  return error;
+}
+
+elmx_error c_unmarshal_helper::p_keep_any_attribute() {
+  auto info = std::make_unique<c_any_info>();
+  info->m_name = mr_reader.m_name;
+  if (!mr_reader.get_attribute_value(&info->m_value, EXWS_PRESERVE)) {
+    return p_report(ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, info->m_name);
+  }
+  mr_reader.get_namespace(info->m_name, &info->m_namespace);
+  info->m_context.m_items.reserve(6);
+  mp_any_attributes->push_back(std::move(info));
+  return ELMX_OK;
 }
 
 // ---- Content ----

@@ -4,7 +4,9 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
@@ -42,6 +44,10 @@ class ISOXML_API c_unmarshal_helper {
   /// An element with children. Empty where that is not allowed: 32.
   elmx_error unmarshal_complex_content(char const* file, int line);
 
+  /// Where attributes that the class does not take are kept; null, as for every class of this format, when
+  /// they are not. The list owns them.
+  std::vector<std::unique_ptr<c_any_info>>* mp_any_attributes = nullptr;
+
   /// The element may be empty, whatever its children's own rules say.
   bool m_empty_allowed = false;
 
@@ -49,6 +55,7 @@ class ISOXML_API c_unmarshal_helper {
   elmx_error p_read_content(char const* file, int line, elmx_error (c_unmarshal_helper::*read_case)());
   elmx_error p_unmarshal_all_attributes();
   elmx_error p_handle_unknown_attribute();
+  elmx_error p_keep_any_attribute();
   elmx_error p_unmarshal_empty_content_case();
   elmx_error p_unmarshal_simple_content_case();
   elmx_error p_unmarshal_complex_content_case();

@@ -26,6 +26,8 @@ void c_attribute_data::clear() {
 }
 
 void c_attribute_data::take_name(std::string* name) {
+  name->clear();
+  if (m_data.empty()) return;
   name->assign(m_data.c_str() + m_index);
   m_index = std::min(m_index + name->size() + 1, m_data.size() - 1);
 }
@@ -48,11 +50,6 @@ void c_xml::rewind() {
   m_doctype_read = false;
   m_past_prolog = false;
   m_getter.rewind();
-}
-
-int c_xml::get_ns_id(c_xml_local const* local, std::string const& name) const {
-  const std::size_t colon = name.find(':');
-  return local->find_namespace_id(colon == std::string::npos ? std::string() : name.substr(0, colon));
 }
 
 // ---- The next item ----
@@ -321,26 +318,31 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
 }
 
 bool c_xml::get_attribute_value(std::string* out, elmx_whitespace mode) {
+  return p_get_captured_value(&m_attributes, out, mode);
+}
+
+// The value at the capture's index, which moves past it whether it can be expanded or not.
+bool c_xml::p_get_captured_value(c_attribute_data* data, std::string* out, elmx_whitespace mode) {
   out->clear();
   m_getter.set_ws_mode(mode);
-  c_attribute_data& data = m_attributes;
-  if (!data.has_next()) return false;
-  const std::size_t end = data.m_index + std::strlen(data.m_data.c_str() + data.m_index);
+  if (!data->has_next()) return false;
+  std::string const& bytes = data->m_data;
+  const std::size_t end = data->m_index + std::strlen(bytes.c_str() + data->m_index);
   bool expanded = true;
-  for (++data.m_index; expanded && data.m_index < end;) {
-    char const* const begin = data.m_data.data() + data.m_index;
-    void const* const reference = std::memchr(begin, '&', end - data.m_index);
+  for (++data->m_index; expanded && data->m_index < end;) {
+    char const* const begin = bytes.data() + data->m_index;
+    void const* const reference = std::memchr(begin, '&', end - data->m_index);
     const std::size_t length = reference == nullptr
-                                   ? end - data.m_index
+                                   ? end - data->m_index
                                    : static_cast<std::size_t>(static_cast<char const*>(reference) - begin);
     m_getter.add_run_wsp(out, begin, length);
-    data.m_index += length;
+    data->m_index += length;
     if (reference == nullptr) break;
-    ++data.m_index;
-    c_entity_name_reader_for_attribute_data reader(data);
+    ++data->m_index;
+    c_entity_name_reader_for_attribute_data reader(*data);
     expanded = p_select_entity(reader, out);
   }
-  data.m_index = std::min(end + 1, data.m_data.size() - 1);
+  data->m_index = std::min(end + 1, bytes.size() - 1);
   return expanded;
 }
 

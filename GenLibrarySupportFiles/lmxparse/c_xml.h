@@ -53,6 +53,10 @@ struct ISOXML_API c_attribute_data {
 
 class ISOXML_API c_xml {
  public:
+  /// What `get_namespace` gives for a name in no namespace, and for a prefix that nothing binds.
+  static const std::string k_non_namespace;
+  static const std::string k_namespace_not_found;
+
   /// Both are borrowed and must outlive the object. `normalize_char_refs`: see `c_get_with_entities`.
   c_xml(c_read& read, c_error& error, bool normalize_char_refs);
 
@@ -73,7 +77,7 @@ class ISOXML_API c_xml {
   /// The text of the element whose start tag has ended, up to the first tag; comments and instructions
   /// vanish. False with 34 at the end of the input, 23 for a bad "<!", nothing for a bad reference.
   bool get_element_value(std::string* out, elmx_whitespace mode, bool expand_entities);
-  /// Reads white space and the end tag of `name`; any name when it is empty. Reports nothing.
+  /// Reads white space and the end tag of `name`. Reports nothing.
   bool is_element_end_tag(std::string const& name);
   /// Reads to the end of the element `name`, which must have no content but white space.
   bool skip_rest_of_empty_element(std::string const& name);
@@ -103,12 +107,33 @@ class ISOXML_API c_xml {
   int find_enumerated_namespace(std::string const& uri) const { return m_namespaces.find_namespace(uri); }
   int add_namespace(char const* uri) { return m_namespaces.add_namespace(uri); }
   void add_namespace(char const* uri, int id) { m_namespaces.add_namespace(uri, id); }
+  char const* find_namespace_from_id(int id) const { return m_namespaces.find_namespace_from_id(id); }
+  /// What follows the name's first colon; the whole name without one.
+  static void get_local_name(std::string const& name, std::string* out);
+  /// What precedes the name's first colon; nothing without one.
+  static void get_namespace_prefix(std::string const& name, std::string* out);
   /// The id of the name's prefix in `local`; an unprefixed name takes the default namespace.
   int get_ns_id(c_xml_local const* local, std::string const& name) const;
   /// True when that id is the schema instance namespace.
   bool is_xsi_attribute(c_xml_local const* local, std::string const& name) const {
     return get_ns_id(local, name) == nsid_xsi;
   }
+
+  /// Looks ahead for an attribute of this start tag, from the current one on, and reads its value. The
+  /// attributes then start over, found or not.
+  bool get_named_attribute(c_xml_local const* local, int ns_id, std::string const& name, std::string* value);
+  /// The same for "xsi:type", whose value is itself a name: its namespace id and its local part.
+  bool get_xsi_type(c_xml_local const* local, int* ns_id, std::string* type);
+  /// The next captured "xmlns" attribute. False when none is left; nothing is read from the input.
+  bool get_namespace_attribute_name(std::string* name);
+  bool get_namespace_attribute_value(std::string* value);
+  bool skip_namespace_attribute_value();
+
+  /// The element `name`, whose start tag's name has just been read, as text: tags with their attributes as
+  /// they stand, text under `mode`, without comments and instructions. The last argument has no effect.
+  bool get_any_element(std::string const& name, std::string* out, elmx_whitespace mode, bool unused);
+  /// The content up to the next end tag, as text, and that tag's name.
+  bool get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode, bool unused);
 
  private:
   elxp_xml_event p_not_well_formed();
@@ -125,6 +150,13 @@ class ISOXML_API c_xml {
   bool p_capture_attributes(c_xml_local* local);
   bool p_capture_declaration(c_xml_local* local, std::string const& name);
   bool p_capture_attribute_value(c_attribute_data* data, std::size_t* value_offset);
+  bool p_get_captured_value(c_attribute_data* data, std::string* out, elmx_whitespace mode);
+  enum class any_tag { start, text, end, failure };
+  any_tag p_get_any_tag_data(std::string* out);
+  any_tag p_get_any_tag_name(std::string* out, int first);
+  bool p_open_any_element(std::string const& name, std::string* out, bool* is_empty);
+  bool p_get_any_element(std::string const& name, std::string* out);
+  static void p_add_any_attribute_data(std::string* out, c_attribute_data* data);
   void p_declare_namespace(c_xml_local* local, std::string const& prefix, char const* raw_uri);
 
   c_get_for_xml m_getter;

@@ -13,6 +13,7 @@
 #include "GenLibrarySupportFiles/lmxparse/c_xml.h"
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"
 #include "GenLibrarySupportFiles/lmxparse/stack_guard.h"
+#include "GenLibrarySupportFiles/lmxtypes/lexical.h"
 
 namespace lmx {
 
@@ -143,6 +144,16 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   /// Binds `prefix` to `uri` for the whole document. Has to come before the read begins.
   void add_namespace_mapping(std::string const& prefix, std::string const& uri);
 
+  /// The URI that the name's prefix stands for: `k_non_namespace` for none, `k_namespace_not_found` for a
+  /// prefix that nothing binds. Returns `*out`.
+  std::string& get_namespace(std::string const& name, std::string* out) const;
+  /// True for a qualified name whose prefix is bound here (XSD QName).
+  bool is_valid_qname(std::string const& text) const;
+  /// Content as text up to the element's end tag, whose name is stored. Nothing when the element has ended.
+  bool get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode, bool unused);
+  /// The whole content of the element `name` as text (XSD anyType): 11, 29 or 10 in `*error` when it fails.
+  bool get_element_ur_value(std::string const& name, std::string* value, elmx_error* error, bool* is_empty);
+
   // The state that element classes read and set while a document is read.
   int m_event = EXE_EOM;                                ///< The current event.
   std::string m_name;                                   ///< The current element or attribute name.
@@ -164,6 +175,17 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   c_cracked_name m_cracked_name;
   std::vector<std::pair<std::string, std::string>> m_namespace_mappings;
 };
+
+/// The namespace of the document's top element. False when there is none to be had. The document starts
+/// again.
+ISOXML_API bool get_instance_namespace(c_xml_reader& reader, std::string* out);
+
+/// Looks through the whole document for attributes `name` of the namespace `ns` and asks `check` for each
+/// until one answer is not `EMU_FALSE`; that is the result, or `EMU_INVALID` for a document that can not be
+/// read. The document starts again.
+ISOXML_API elmx_must_understand has_must_understand(c_xml_reader& reader, std::string const& ns,
+                                                    std::string const& name,
+                                                    elmx_must_understand (*check)(std::string const&));
 
 /// Selects a table of known elements for its own lifetime.
 class ISOXML_API c_known_elements_selector {

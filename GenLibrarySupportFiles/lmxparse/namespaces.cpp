@@ -1,10 +1,20 @@
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"
 
+#include "GenLibrarySupportFiles/lmxparse/c_xml.h"
+
 namespace lmx {
 
 int c_enumerated_namespaces::find_namespace(std::string const& uri) const {
   int const* const id = m_ids.find(uri);
   return id == nullptr ? nsid_not_found : *id;
+}
+
+char const* c_enumerated_namespaces::find_namespace_from_id(int id) const {
+  if (id == nsid_none) return c_xml::k_non_namespace.c_str();
+  for (auto const& [uri, uri_id] : m_ids.entries()) {
+    if (uri_id == id) return uri.c_str();
+  }
+  return nullptr;
 }
 
 int c_enumerated_namespaces::add_namespace(char const* uri) {
@@ -28,11 +38,52 @@ void c_enumerated_namespaces::clear() {
 
 int c_xml_local::find_namespace_id(std::string const& prefix) const {
   if (prefix == "xml") return nsid_xml;
-  for (c_xml_local const* scope = mp_nearest; scope != nullptr;) {
+  for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
     if (int const* const id = scope->m_ids.find(prefix)) return *id;
-    scope = scope->mp_parent == nullptr ? nullptr : scope->mp_parent->mp_nearest;
   }
   return prefix.empty() ? nsid_none : nsid_not_found;
+}
+
+// This scope's own entry.
+char const* c_xml_local::p_find_prefix(int id) const {
+  for (auto const& [prefix, prefix_id] : m_ids.entries()) {
+    if (prefix_id == id) return prefix.c_str();
+  }
+  return nullptr;
+}
+
+char const* c_xml_local::find_namespace_prefix(int id) const {
+  if (id == nsid_xml) return "xml";
+  for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
+    if (char const* const prefix = scope->p_find_prefix(id)) return prefix;
+  }
+  return nullptr;
+}
+
+char const* c_xml_local::find_first_namespace_prefix(int id) const {
+  if (id == nsid_xml) return "xml";
+  char const* outermost = nullptr;
+  for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
+    if (char const* const prefix = scope->p_find_prefix(id)) outermost = prefix;
+  }
+  return outermost;
+}
+
+// Outermost first, so that inner declarations come later and override.
+void c_xml_local::extract_namespace_context(c_namespace_context* context, c_xml const& xml) const {
+  std::vector<c_xml_local const*> scopes;
+  for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards())
+    scopes.push_back(scope);
+  for (auto scope = scopes.rbegin(); scope != scopes.rend(); ++scope) {
+    for (auto const& [prefix, id] : (*scope)->m_ids.entries()) {
+      char const* const uri = xml.find_namespace_from_id(id);
+      auto& items = context->m_items;
+      std::size_t i = 0;
+      while (i != items.size() && items[i].m_prefix != prefix) ++i;
+      if (i == items.size()) items.push_back({prefix, std::string()});
+      items[i].m_uri = uri == nullptr ? "" : uri;
+    }
+  }
 }
 
 void c_xml_local::add_namespace(char const* prefix, int id) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxinternals/c_repository.h"
@@ -33,6 +34,8 @@ class ISOXML_API c_enumerated_namespaces {
 
   /// The id of `uri`, 0 when it has none.
   int find_namespace(std::string const& uri) const;
+  /// The URI of `id`: the empty text for 1, null for an id that was not given out. Borrowed until `clear`.
+  char const* find_namespace_from_id(int id) const;
   /// The id of `uri`, given out now if need be.
   int add_namespace(char const* uri);
   /// Enters `uri` under `id`. A URI already there keeps its id; later ids are above `id` either way.
@@ -44,6 +47,27 @@ class ISOXML_API c_enumerated_namespaces {
   int m_next_id = nsid_first_user;
   c_repository<int> m_ids;
 };
+
+/// One prefix and what it stands for.
+struct ISOXML_API s_namesapace_context_item {
+  std::string m_prefix;
+  std::string m_uri;
+};
+
+/// The prefixes in force at one place of a document, in the order of their first appearance.
+struct ISOXML_API c_namespace_context {
+  std::vector<s_namesapace_context_item> m_items;
+};
+
+/// One attribute or element that the schema leaves open, as text.
+struct ISOXML_API c_any_info {
+  std::string m_namespace;
+  std::string m_name;
+  std::string m_value;
+  c_namespace_context m_context;
+};
+
+class c_xml;
 
 /// One scope of prefix declarations. Scopes nest on the stack of the code that reads elements.
 class ISOXML_API c_xml_local {
@@ -57,6 +81,14 @@ class ISOXML_API c_xml_local {
 
   /// The id that `prefix` stands for here; "" is the default namespace. Unbound: 1 for "", else 0.
   int find_namespace_id(std::string const& prefix) const;
+  /// The prefix that stands for `id`, from this scope outwards; null when none does. Borrowed until the scope
+  /// changes.
+  char const* find_namespace_prefix(int id) const;
+  /// The same, but the outermost match.
+  char const* find_first_namespace_prefix(int id) const;
+  /// Adds all prefixes in force to `*context`, with their URIs from `xml`. Inner declarations override outer
+  /// ones.
+  void extract_namespace_context(c_namespace_context* context, c_xml const& xml) const;
   /// Binds `prefix` in this scope.
   void add_namespace(char const* prefix, int id);
   /// Forgets this scope's own declarations.
@@ -69,6 +101,11 @@ class ISOXML_API c_xml_local {
   c_xml_local* mp_nearest = nullptr;  // the nearest scope, from this one outwards, that has had declarations
 
  private:
+  c_xml_local const* p_next_outwards() const {
+    return mp_parent == nullptr ? nullptr : mp_parent->mp_nearest;
+  }
+  char const* p_find_prefix(int id) const;
+
   c_repository<int> m_ids;
 };
 

@@ -17,9 +17,13 @@ namespace lmx {
 
 namespace {
 
-std::ostream& write(std::ostream& out, char const* from, char const* to) { return out.write(from, to - from); }
+std::ostream& write(std::ostream& out, char const* from, char const* to) {
+  return out.write(from, to - from);
+}
 
-std::ostream& write(std::ostream& out, char const* text) { return write(out, text, text + std::strlen(text)); }
+std::ostream& write(std::ostream& out, char const* text) {
+  return write(out, text, text + std::strlen(text));
+}
 
 // The reference that stands for the character at `index`, null for one that stands for itself.
 template <class Char>
@@ -82,8 +86,7 @@ std::ostream& output_convert_to_xml(std::ostream& out, std::wstring const& text)
       continue;
     }
     if (is_high_surrogate(character)) {
-      if (++index == text.size()) return out;
-      auto const low = static_cast<std::uint32_t>(text[index]);
+      auto const low = static_cast<std::uint32_t>(text[++index]);  // at the end the NUL, which is none
       if (!is_low_surrogate(low)) return out;
       character = 0x10000 + ((character & 0x3FF) << 10) + (low & 0x3FF);
     }
@@ -91,6 +94,10 @@ std::ostream& output_convert_to_xml(std::ostream& out, std::wstring const& text)
     write(out, unicode_char_to_utf8(static_cast<int>(character), bytes));
   }
   return out;
+}
+
+std::ostream& output_convert_to_xml(std::ostream& out, wchar_t const* text) {
+  return output_convert_to_xml(out, std::wstring(text));
 }
 
 std::ostream& output_convert_to_xml(std::ostream& out, bool value) {

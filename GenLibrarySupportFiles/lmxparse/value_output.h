@@ -28,6 +28,8 @@ ISOXML_API std::ostream& output_convert_to_xml(std::ostream& out, char const* te
 /// The same rule for wide text, written as UTF-8. Each element is a code unit: two surrogates are one
 /// character. A high surrogate without its partner ends the output.
 ISOXML_API std::ostream& output_convert_to_xml(std::ostream& out, std::wstring const& text);
+/// The same up to the NUL. `text` must not be null.
+ISOXML_API std::ostream& output_convert_to_xml(std::ostream& out, wchar_t const* text);
 /// "true" or "false" (XML Schema Part 2, 3.2.2).
 ISOXML_API std::ostream& output_convert_to_xml(std::ostream& out, bool value);
 /// The shorter of the fixed and the exponent form of seven significant digits, "1e+20"; "NaN", "INF" and

@@ -29,6 +29,7 @@ const std::string link = "<LNK A='TSK1' B='v'/>";
 std::string file_with(std::string const& content) {
   return file.substr(0, file.size() - 2) + ">" + content + "</AFE>";
 }
+
 std::string group_with(std::string const& content) { return "<LGP A='LGP1' B='1'>" + content + "</LGP>"; }
 
 template <class X>
@@ -175,77 +176,76 @@ struct Story {
   std::string unknown;
 };
 
-class Stories : public testing::TestWithParam<Story> {};
+void expect_stories(std::vector<Story> const& rows) {
+  for (auto const& [caption, bytes, reports, unknown] : rows) {
+    Reading<> reading(bytes, tolerant());
+    EXPECT_EQ(0, reading.error) << caption;
+    EXPECT_EQ(reports, reading.reader.reports()) << caption;
+    EXPECT_EQ(unknown, reading.reader.unknown()) << caption;
 
-TEST_P(Stories, AreToldInOrder) {
-  const auto& [caption, bytes, reports, unknown] = GetParam();
-  Reading<> reading(bytes, tolerant());
-  EXPECT_EQ(0, reading.error) << caption;
-  EXPECT_EQ(reports, reading.reader.reports()) << caption;
-  EXPECT_EQ(unknown, reading.reader.unknown()) << caption;
-
-  Reading<> strict_reading(bytes);
-  EXPECT_EQ(reports.empty() ? 0 : std::stoi(reports), strict_reading.error) << caption;
-  EXPECT_EQ(reports.substr(0, reports.find(',')), strict_reading.reader.reports()) << caption;
-  EXPECT_EQ(strict_reading.error, strict_reading.reader.debug_error().m_code) << caption;
+    Reading<> strict_reading(bytes);
+    EXPECT_EQ(reports.empty() ? 0 : std::stoi(reports), strict_reading.error) << caption;
+    EXPECT_EQ(reports.substr(0, reports.find(',')), strict_reading.reader.reports()) << caption;
+    EXPECT_EQ(strict_reading.error, strict_reading.reader.debug_error().m_code) << caption;
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    AttributeOnly, Stories,
-    testing::Values(Story{"an unknown child", file_with("<Foo/>"), "10 AFE", "AFE/Foo"},
-                    Story{"a bad tag and an unknown child", "<AFE A='x'><Foo/></AFE>",
-                          "20 A, 22 A, 25 AFE, 10 AFE", "AFE/Foo"},
-                    Story{"a child known elsewhere", file_with(link), "10 AFE", "AFE/LNK"},
-                    Story{"itself as a child", file_with(file), "10 AFE", "AFE/AFE"},
-                    Story{"text", file_with("text"), "10 AFE", ""},
-                    Story{"text and its ancestors", header + file_with("text") + "</ISO11783_TaskData>",
-                          "10 AFE, 10 ISO11783_TaskData", ""},
-                    Story{"another end tag", "<LNK A='TSK1' B='v'></LNX>", "10 LNK", ""},
-                    Story{"nothing", file_with(""), "", ""},
-                    Story{"white space", file_with(" \r\n\t"), "", ""},
-                    Story{"a comment and an instruction", file_with("<!-- a -- b --> <?p i?>\n"), "", ""}));
+TEST(Stories, OfElementsWithoutChildren) {
+  expect_stories(
+      {{"an unknown child", file_with("<Foo/>"), "10 AFE", "AFE/Foo"},
+       {"a bad tag and an unknown child", "<AFE A='x'><Foo/></AFE>", "20 A, 22 A, 25 AFE, 10 AFE", "AFE/Foo"},
+       {"a child known elsewhere", file_with(link), "10 AFE", "AFE/LNK"},
+       {"itself as a child", file_with(file), "10 AFE", "AFE/AFE"},
+       {"text", file_with("text"), "10 AFE", ""},
+       {"text and its ancestors", header + file_with("text") + "</ISO11783_TaskData>",
+        "10 AFE, 10 ISO11783_TaskData", ""},
+       {"another end tag", "<LNK A='TSK1' B='v'></LNX>", "10 LNK", ""},
+       {"nothing", file_with(""), "", ""},
+       {"white space", file_with(" \r\n\t"), "", ""},
+       {"a comment and an instruction", file_with("<!-- a -- b --> <?p i?>\n"), "", ""}});
+}
 
-INSTANTIATE_TEST_SUITE_P(
-    Attributes, Stories,
-    testing::Values(
-        Story{"several faults in one", "<LNK C='x' A='TSKA23456789012'/>", "19 A, 22 A, 25 LNK", ""},
-        Story{"faults in document order", "<AFE D='0' C='' B='3' A='abcdefgh.xml'/>", "37 D, 38 B, 22 A", ""},
-        Story{"one taken twice", "<LNK A='TSK1' B='v' A='TSK2'/>", "3 @A", ""},
-        Story{"one taken three times", "<LNK A='TSK1' B='v' A='TSK2' A='X'/>", "3 @A, 3 @A, 20 A, 22 A", ""},
-        Story{"unknown ones", "<LNK a='1' A='TSK1' Z='&foo;' B='v'/>", "", "LNK/@a, LNK/@Z"},
-        Story{"a prefix makes it another", "<LNK xmlns:p='u' p:A='x' A='TSK1' B='v'/>", "", "LNK/@p:A"},
-        Story{"a default namespace does not reach attributes", "<p:x xmlns:p='u'/><LNK A='TSK1' B='v'/>", "",
-              "p:x"},
-        Story{"of the schema instance namespace",
-              "<LNK xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:type='x' xsi:foo='y' A='TSK1' "
-              "B='v'/>",
-              "", ""}));
+TEST(Stories, OfAttributes) {
+  expect_stories(
+      {{"several faults in one", "<LNK C='x' A='TSKA23456789012'/>", "19 A, 22 A, 25 LNK", ""},
+       {"faults in document order", "<AFE D='0' C='' B='3' A='abcdefgh.xml'/>", "37 D, 38 B, 22 A", ""},
+       {"one taken twice", "<LNK A='TSK1' B='v' A='TSK2'/>", "3 @A", ""},
+       {"one taken three times", "<LNK A='TSK1' B='v' A='TSK2' A='X'/>", "3 @A, 3 @A, 20 A, 22 A", ""},
+       {"unknown ones", "<LNK a='1' A='TSK1' Z='&foo;' B='v'/>", "", "LNK/@a, LNK/@Z"},
+       {"a prefix makes it another", "<LNK xmlns:p='u' p:A='x' A='TSK1' B='v'/>", "", "LNK/@p:A"},
+       {"a default namespace does not reach attributes", "<p:x xmlns:p='u'/><LNK A='TSK1' B='v'/>", "",
+        "p:x"},
+       {"of the schema instance namespace",
+        "<LNK xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:type='x' xsi:foo='y' A='TSK1' "
+        "B='v'/>",
+        "", ""}});
+}
 
-INSTANTIATE_TEST_SUITE_P(
-    Content, Stories,
-    testing::Values(
-        Story{"nested missing attributes", "<LGP A='LGP1'><LNK A='TSK1'/><LNK B='v'/></LGP>",
-              "25 LGP, 25 LNK, 25 LNK", ""},
-        Story{"end of input in an empty body", "<LGP A='LGP1' B='1'>", "34 LGP, 10 LGP", ""},
-        Story{"end of input after a child", "<LGP A='LGP1' B='1'>" + link, "34 LGP, 10 LGP", ""},
-        Story{"end of input two levels deep", header + file, "34 ISO11783_TaskData, 10 ISO11783_TaskData",
-              ""},
-        Story{"another end tag", "<LGP A='LGP1' B='1'></LGX>", "10 LGP", ""},
-        Story{"text", group_with("text"), "10 LGP", ""},
-        Story{"text after a child", group_with(link + "text"), "10 LGP", ""},
-        Story{"an empty CDATA section", group_with("<![CDATA[]]>"), "10 LGP", ""},
-        Story{"unknown children around known ones", group_with("<a/>" + link + "<b><c/></b>" + link + "<d/>"),
-              "", "LGP/a, LGP/b, LGP/d"},
-        Story{"only unknown children", group_with("<a/><b>text</b>"), "", "LGP/a, LGP/b"},
-        Story{"known elsewhere", group_with("<XFR A='CTR00001' B='1'/>"), "", "LGP/XFR"},
-        Story{"another namespace", group_with("<LNK xmlns='u' A='TSK1' B='v'/>"), "", "LGP/LNK"}));
+TEST(Stories, OfChildren) {
+  expect_stories(
+      {{"nested missing attributes", "<LGP A='LGP1'><LNK A='TSK1'/><LNK B='v'/></LGP>",
+        "25 LGP, 25 LNK, 25 LNK", ""},
+       {"end of input in an empty body", "<LGP A='LGP1' B='1'>", "34 LGP, 10 LGP", ""},
+       {"end of input after a child", "<LGP A='LGP1' B='1'>" + link, "34 LGP, 10 LGP", ""},
+       {"end of input two levels deep", header + file, "34 ISO11783_TaskData, 10 ISO11783_TaskData", ""},
+       {"another end tag", "<LGP A='LGP1' B='1'></LGX>", "10 LGP", ""},
+       {"text", group_with("text"), "10 LGP", ""},
+       {"text after a child", group_with(link + "text"), "10 LGP", ""},
+       {"an empty CDATA section", group_with("<![CDATA[]]>"), "10 LGP", ""},
+       {"unknown children around known ones", group_with("<a/>" + link + "<b><c/></b>" + link + "<d/>"), "",
+        "LGP/a, LGP/b, LGP/d"},
+       {"only unknown children", group_with("<a/><b>text</b>"), "", "LGP/a, LGP/b"},
+       {"known elsewhere", group_with("<XFR A='CTR00001' B='1'/>"), "", "LGP/XFR"},
+       {"another namespace", group_with("<LNK xmlns='u' A='TSK1' B='v'/>"), "", "LGP/LNK"}});
+}
 
-INSTANTIATE_TEST_SUITE_P(
-    First, Stories,
-    testing::Values(Story{"no element", "", "34 , 31 ", ""}, Story{"an end tag", "</x>", "31 x", ""},
-                    Story{"text", " text<LNK/>", "31 text", ""},
-                    Story{"an unknown one before", "<Foo><LNK/></Foo>" + link, "", "Foo"},
-                    Story{"none but an unknown one", "<Foo/>", "34 , 31 ", "Foo"}));
+TEST(Stories, OfTheFirstElement) {
+  expect_stories({{"no element", "", "34 , 31 ", ""},
+                  {"an end tag", "</x>", "31 x", ""},
+                  {"text", " text<LNK/>", "31 text", ""},
+                  {"an unknown one before", "<Foo><LNK/></Foo>" + link, "", "Foo"},
+                  {"none but an unknown one", "<Foo/>", "34 , 31 ", "Foo"}});
+}
 
 TEST(Reports, OfWhatCannotBeReadNameTheElementOrAttribute) {
   const struct {

@@ -50,7 +50,7 @@ void with_each_source(std::string const& bytes, Check check) {
     MemoryRead read(bytes);
     check(read);
   }
-  for (const std::size_t window : {1, 2, 3, 5}) {
+  for (const std::size_t window : {1u, 2u, 3u, 5u}) {
     SCOPED_TRACE("windows of " + std::to_string(window));
     WindowRead read(bytes, window);
     check(read);

@@ -1,0 +1,269 @@
+// The line a report carries, for every kind of line end, and the code and line a host gets for damaged
+// documents. A report stands where the reader stands: all attributes of a tag are read before the first is
+// looked at, and a line end that stopped a name counts twice, once when it stops it and once when read again.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "GenLibrarySupportFiles/lmxparse/c_xml.h"
+#include "isoxmllib/isoxmllib.h"
+#include "support/each_source.h"
+#include "support/temp_dir.h"
+#include "transfer/reader/xmlReader.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+std::string with_line_ends(std::string const& document, std::string const& line_end) {
+  std::string all;
+  for (const char c : document) all += c == '\n' ? line_end : std::string(1, c);
+  return all;
+}
+
+// Where the reader stands at the end of each item: start tag with its attributes, text, end tag, end of
+// input.
+std::vector<int> lines(lmx::c_xml& xml) {
+  std::vector<int> lines;
+  std::string name;
+  lmx::c_xml_local local;
+  for (;;) {
+    const auto event = xml.get_element_name(&local, &name);
+    if (event == lmx::EXE_TOKEN)
+      while (xml.get_attribute_name(&name, false) == lmx::EXE_TOKEN) xml.skip_attribute_value();
+    lines.push_back(xml.line());
+    if (event == lmx::EXE_EOM || event == lmx::EXE_ERROR) return lines;
+  }
+}
+
+struct Lines {
+  std::string caption, document;  // with LF
+  std::vector<int> lf_and_cr_lf, cr;
+};
+class LinesOfItems : public testing::TestWithParam<Lines> {};
+TEST_P(LinesOfItems, DriftOnlyByLineEndsThatStopAName) {
+  const auto& row = GetParam();
+  SCOPED_TRACE(row.caption);
+  for (const std::string line_end : {"\n", "\r\n", "\r"}) {
+    SCOPED_TRACE(testing::PrintToString(line_end));
+    with_each_source(with_line_ends(row.document, line_end), [&](lmx::c_read& read) {
+      lmx::c_error log;
+      lmx::c_xml xml(read, log, true);
+      EXPECT_EQ(line_end == "\r" ? row.cr : row.lf_and_cr_lf, lines(xml));
+    });
+  }
+}
+
+std::string header_document(std::string const& first_blank) {
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ISO11783_TaskData" + first_blank +
+         "VersionMajor=\"4\"\nVersionMinor=\"3\"\nManagementSoftwareManufacturer=\"m\"\n"
+         "ManagementSoftwareVersion=\"1\"\nDataTransferOrigin=\"1\">\n  <TSK "
+         "A=\"TSK1\"/>\n</ISO11783_TaskData>\n";
+}
+
+using Numbers = std::vector<int>;
+INSTANTIATE_TEST_SUITE_P(
+    Drift, LinesOfItems,
+    testing::Values(
+        Lines{"behind an element's name", "<TSK\n  A=\"TSK1\"/>\n", Numbers{3, 4}, Numbers{2, 3}},
+        Lines{"two behind a name, only the first doubles", "<TSK\n\nA=\"TSK1\"/>\n", Numbers{4, 5},
+              Numbers{3, 4}},
+        Lines{"behind a child's name",
+              "<TSK A=\"TSK1\" G=\"1\">\n  <TIM\n    A=\"2024-01-01T00:00:00\" D=\"3\"/>\n</TSK>\n",
+              Numbers{1, 4, 5, 6}, Numbers{1, 3, 4, 5}},
+        Lines{"behind an unknown one's name",
+              "<TSK A=\"TSK1\" G=\"1\">\n<Foo\n/>\n<TIM A=\"x\" D=\"1\"/>\n</TSK>\n", Numbers{1, 4, 5, 6, 7},
+              Numbers{1, 3, 4, 5, 6}},
+        Lines{"three names",
+              "<TSK\nA=\"TSK1\"\nG=\"1\">\n<TZN\nA=\"1\">\n<PDV\nA=\"0001\"\nB=\"1x\"/>\n</TZN>\n</TSK>\n",
+              Numbers{4, 7, 11, 12, 13, 14}, Numbers{3, 5, 8, 9, 10, 11}},
+        Lines{"behind an attribute's name", "<TSK A\n=\"TSK1\"/>", Numbers{3, 3}, Numbers{2, 2}},
+        Lines{"behind a name like a declaration", "<a xml\n='1'/>", Numbers{3, 3}, Numbers{2, 2}},
+        Lines{"behind a default declaration's name", "<a\nxmlns\n='u'/>", Numbers{5, 5}, Numbers{3, 3}},
+        Lines{"behind a prefix declaration's name", "<a\nxmlns:p\n='u'/>", Numbers{5, 5}, Numbers{3, 3}},
+        Lines{"behind a reference without its semicolon", "<a>&#65\n</a>", Numbers{1, 3, 3, 3},
+              Numbers{1, 2, 2, 2}},
+        Lines{"behind a named one", "<a>x&lt\n</a>", Numbers{1, 3, 3, 3}, Numbers{1, 2, 2, 2}},
+        Lines{"a full header, the name alone on its line", header_document("\n"), Numbers{8, 9, 10, 11},
+              Numbers{7, 8, 9, 10}},
+        Lines{"a full header, the first attribute beside the name", header_document(" "), Numbers{6, 7, 8, 9},
+              Numbers{6, 7, 8, 9}}));
+
+Lines exact(std::string caption, std::string document, Numbers numbers) {
+  return {std::move(caption), std::move(document), numbers, numbers};
+}
+INSTANTIATE_TEST_SUITE_P(
+    Exact, LinesOfItems,
+    testing::Values(exact("nothing", "", {1}), exact("around an element", "\n\n<Foo/>\n\n", {3, 5}),
+                    exact("between attributes",
+                          "<PFD A=\"PFD1\"\n     C=\"North\"\n     D=\"12a\"\n     E=\"CTR1\"/>\n", {4, 5}),
+                    exact("behind the last attribute", "<TSK A=\"TSK1\"\n\n\n/>\n", {4, 5}),
+                    exact("in a value", "<TSK A=\"TSK1\"\nG=\"1\" B=\"a\nb\" C=\"CTR\"/>\n", {3, 4}),
+                    exact("in a value, behind a reference", "<a b='&#65\nc'/>", {2, 2}),
+                    exact("behind the equals sign", "<TSK A=\n\"TSK1\"/>", {2, 2}),
+                    exact("before a damaged value", "<TSK A=\n\"TSK1\" G=1/>", {2}),
+                    exact("in text", "<a>x\ny\n</a>\n", {1, 3, 3, 4}),
+                    exact("behind a reference", "<a>&#65;\n</a>", {1, 2, 2, 2}),
+                    exact("in an end tag", "<a></a\n>\n", {1, 2, 3}),
+                    exact("behind a slash", "<a/\n>\n", {2, 3}),
+                    exact("before an end tag", "<CLD A=\"CLD1\">\n\n</CLD>", {1, 3, 3}),
+                    exact("in comments and instructions",
+                          "<TSK A=\"TSK1\" G=\"1\">\n<!-- a\nb -->\n<?p q\nr?>\n<TIM A=\"x\"/>\n</TSK>\n",
+                          {1, 6, 7, 8}),
+                    exact("in a declaration", "<?xml\nversion='1.0'\nencoding='UTF-8'\n?>\n<a/>", {5, 5}),
+                    exact("in a DOCTYPE", "<!DOCTYPE\na\n>\n<a/>", {4, 4}),
+                    exact("in CDATA", "<a><![CDATA[\n\n]]></a>", {1, 3, 3, 3}),
+                    exact("before the end of the input", "<TSK A=\"TSK1\" G=\"1\">\n\n", {1, 3}),
+                    exact("cut in a value", "<TSK A=\"TSK1\" G=\"1", {1}),
+                    exact("cut behind an attribute", "<TSK A=\"TSK1\" G=\"1\"\n", {2})));
+
+// --- What a host gets ------------------------------------------------------------------------------------
+
+const std::string list =
+    "<ISO11783LinkList VersionMajor=\"4\" VersionMinor=\"3\" ManagementSoftwareManufacturer=\"m\" "
+    "ManagementSoftwareVersion=\"1\" DataTransferOrigin=\"1\">";
+const std::string list_end = "</ISO11783LinkList>";
+const std::string file = "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"1\"";
+
+struct Outcome {
+  int code, line;
+};
+Outcome read_document(std::string const& document) {
+  const TempDir directory;
+  lmx::xmlReader reader(directory.write("TASKDATA.XML", document).c_str());
+  Root root;
+  const lmx::elmx_error code = root.unmarshal(reader);
+  EXPECT_EQ(code, reader.debug_error().m_code);
+  return {code, reader.debug_error().m_xml_line};
+}
+
+struct Fault {
+  std::string caption, document;
+  int code;
+};
+class Faults : public testing::TestWithParam<Fault> {};
+TEST_P(Faults, GiveTheirCode) {
+  EXPECT_EQ(GetParam().code, read_document(GetParam().document).code) << GetParam().caption;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Accepted, Faults,
+    testing::Values(Fault{"nothing wrong", list + list_end, 0},
+                    Fault{"an attribute-only root", file + "/>", 0},
+                    Fault{"an angle in a value", file + " E=\"<\"/>", 0},
+                    Fault{"no blank between attributes", file + "E=\"1\"/>", 0},
+                    Fault{"unknown attribute", file + " X=\"1\"/>", 0},
+                    Fault{"unknown attribute with a bare ampersand", file + " X=\"A & B\"/>", 0},
+                    Fault{"unknown element", list + "<Foo><Bar/></Foo>" + list_end, 0},
+                    Fault{"a mark", "\xEF\xBB\xBF" + list + list_end, 0},
+                    Fault{"a bad comment end", "<!-- --->" + list + list_end, 0},
+                    Fault{"an instruction that swallows no root", "<?x?><?y?>" + list + list_end, 0},
+                    Fault{"a Latin-1 letter without a declaration", file + " E=\"\xE9\"/>", 0},
+                    Fault{"behind the root anything", list + list_end + "<", 0}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Refused, Faults,
+    testing::Values(Fault{"unquoted value", list + "<LGP A=LGP1/>", 23},
+                    Fault{"no equals sign", list + "<LGP A/>", 23},
+                    Fault{"stray character in a tag", file + ",/>", 23},
+                    Fault{"other end tag", list + "</ISO11783LinkLisT>", 10},
+                    Fault{"other end tag in an unknown element", list + "<Foo><Bar></Foo>" + list_end, 5},
+                    Fault{"text among elements", list + "x" + list_end, 10},
+                    Fault{"CDATA among elements", list + "<![CDATA[]]>" + list_end, 10},
+                    Fault{"attribute twice", file + " D=\"1\"/>", 3},
+                    Fault{"undeclared entity in a value", file + " E=\"&nbsp;\"/>", 28},
+                    Fault{"bare ampersand in a value", file + " E=\"A & B\"/>", 28},
+                    Fault{"undeclared entity among elements", list + "&nbsp;" + list_end, 10},
+                    Fault{"bare ampersand among elements", list + "& " + list_end, 10},
+                    Fault{"bare ampersand in an unknown element", list + "<Foo>A & B</Foo>" + list_end, 5},
+                    Fault{"DOCTYPE in content", list + "<!DOCTYPE a>" + list_end, 9},
+                    Fault{"second DOCTYPE", "<!DOCTYPE a><!DOCTYPE a>" + list + list_end, 9},
+                    Fault{"second declaration",
+                          "<?xml version='1.0'?><?xml version='1.0'?>" + list + list_end, 13},
+                    Fault{"no version", "<?xml encoding='UTF-8'?>" + list + list_end, 13},
+                    Fault{"version 2.0", "<?xml version='2.0'?>" + list + list_end, 14},
+                    Fault{"unknown encoding", "<?xml version='1.0' encoding='KOI8-R'?>" + list + list_end, 6},
+                    Fault{"encoding that the bytes are not",
+                          "<?xml version='1.0' encoding='UTF-16'?>" + list + list_end, 15},
+                    Fault{"other damage to the declaration", "<?xml version='1.0' x?>" + list + list_end, 31},
+                    Fault{"first byte that no document has", "hello<a/>", 6},
+                    Fault{"an instruction that swallows the root", "<?x?>" + list + list_end, 31},
+                    Fault{"no such markup", "<!x>" + list + list_end, 31},
+                    Fault{"a warning's code leaks into it", "<!-- x ---><!x>" + list + list_end, 8},
+                    Fault{"NUL in a value", file + " E=\"T\0x\" F=\"1\"/>"s, 23},
+                    Fault{"bad byte in a value", file + " E=\"\x80\"/>", 23},
+                    Fault{"umlaut in Latin-1 without a declaration", file + " E=\"\xF6\"/>", 23},
+                    Fault{"bad byte among elements", list + "\x80" + list_end, 34},
+                    Fault{"bad second byte", "<\x80/>", 23}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Cut, Faults,
+    testing::Values(
+        Fault{"empty file", "", 34}, Fault{"blanks", " \n ", 34}, Fault{"a mark", "\xEF\xBB\xBF", 34},
+        Fault{"between items", list, 34},
+        Fault{"between items, behind a child", list + "<LGP A=\"LGP1\" B=\"1\"/>", 34},
+        Fault{"in a name", list + "<LGP", 23}, Fault{"in an unknown name", list + "<Foo", 23},
+        Fault{"behind a name and a blank", list + "<LGP ", 10},
+        Fault{"in an attribute's name", list + "<LGP A", 34},
+        Fault{"behind the equals sign", list + "<LGP A=", 23}, Fault{"in a value", list + "<LGP A=\"LG", 23},
+        Fault{"behind an attribute", list + "<LGP A=\"LGP1\"", 10},
+        Fault{"behind an attribute of the root", file, 31}, Fault{"behind the root's name", "<AFE ", 31},
+        Fault{"in the root's name", "<AFE", 23}, Fault{"in the root's attribute's name", "<AFE A", 34},
+        Fault{"in an unknown element", list + "<Foo>", 5}, Fault{"in a comment", list + "<!-- ", 10},
+        Fault{"in a comment before the root", "<!-- ", 31}, Fault{"in an instruction", list + "<?p", 10},
+        Fault{"in an end tag's name", list + "</ISO11783Link", 23}));
+
+TEST(ADocumentCutAtAnyByte, FailsUntilTheRootsLastAngle) {
+  const std::string document =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- c -->\n<!DOCTYPE a>\n<?p q?>\n" + list +
+      "\n<Foo x='&gt;'>t<Bar/></Foo><!-- c --><LGP A=\"LGP1\" B=\"1\" E=\"a&amp;b\">"
+      "<LNK A=\"CTR1\" B=\"{x}\"/></LGP>" +
+      list_end;
+  EXPECT_EQ(0, read_document(document).code);
+  const std::set<int> codes = {23, 34, 31, 10, 5, 29, 13, 21};
+  for (std::size_t length = 0; length < document.size(); ++length) {
+    const int code = read_document(document.substr(0, length)).code;
+    EXPECT_EQ(1u, codes.count(code)) << code << " for " << document.substr(0, length);
+  }
+}
+
+struct FaultLine {
+  std::string caption, document;
+  int code, lf_and_cr_lf, cr;
+};
+class FaultLines : public testing::TestWithParam<FaultLine> {};
+TEST_P(FaultLines, AreWhereTheReaderStands) {
+  const auto& row = GetParam();
+  for (const std::string line_end : {"\n", "\r\n", "\r"}) {
+    SCOPED_TRACE(row.caption + " " + testing::PrintToString(line_end));
+    const Outcome outcome = read_document(with_line_ends(row.document, line_end));
+    EXPECT_EQ(row.code, outcome.code);
+    EXPECT_EQ(line_end == "\r" ? row.cr : row.lf_and_cr_lf, outcome.line);
+  }
+}
+INSTANTIATE_TEST_SUITE_P(
+    Host, FaultLines,
+    testing::Values(
+        FaultLine{"empty file", "", 34, 1, 1}, FaultLine{"wrong first byte", "hello\n", 6, 1, 1},
+        FaultLine{"unknown root alone", "\n\n<Foo/>\n\n", 34, 5, 5},
+        FaultLine{"missing attribute behind a drift", "<AFE\n  A=\"ABCDEFGH.XML\"/>\n", 25, 3, 2},
+        FaultLine{"missing attribute behind more line ends", "<AFE\n\nA=\"ABCDEFGH.XML\"/>\n", 25, 4, 3},
+        FaultLine{"missing attribute without one", "<AFE A=\"ABCDEFGH.XML\"\n\n\n/>\n", 25, 4, 4},
+        FaultLine{"line end behind an attribute's name", "<AFE A\n=\"ABCDEFGH.XML\"/>", 25, 3, 2},
+        FaultLine{"damaged value", "<AFE A=\n\"ABCDEFGH.XML\" B=1/>", 23, 2, 2},
+        FaultLine{"a value's fault stands at the tag's end",
+                  "<AFE A=\"ABCDEFGH.XML\"\nB=\"3\"\nC=\"\"\nD=\"1\"/>\n", 38, 4, 4},
+        FaultLine{"a child behind a drift", list + "\n<LGP\nA=\"LGP1\"\nB=\"9\"/>\n" + list_end, 38, 5, 4},
+        FaultLine{"skipped elements drift too", list + "\n<Foo\n/>\n<LGP A=\"LGP1\"/>\n" + list_end, 25, 5,
+                  4},
+        FaultLine{"comments and instructions do not",
+                  list + "\n<!-- a\nb -->\n<?p q\nr?>\n<LGP A=\"LGP1\"/>\n" + list_end, 25, 6, 6},
+        FaultLine{"other end tag", list + "\n</X>\n", 10, 2, 2}, FaultLine{"cut", list + "\n\n", 34, 3, 3},
+        FaultLine{"cut in a value", "<AFE A=\"ABCDEFGH.XML\" B=\"1", 23, 1, 1},
+        FaultLine{"cut behind an attribute", "<AFE A=\"ABCDEFGH.XML\" B=\"1\"\n", 31, 2, 2}));
+
+}  // namespace
