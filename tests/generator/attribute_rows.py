@@ -64,11 +64,12 @@ def row(documents, element, value):
     without = documents.document(element, others)
     bad = ", ".join(f'{{"{what}", {raw(documents.document(element, others + [(value.xml, text)]))}, {code}}}'
                     for what, text, code in values.bad(value))
+    edges = ", ".join(raw(documents.document(element, others + [(value.xml, text)])) for text in values.edges(value))
     name = element.name
     getter = (f"[](Root const& root) {{ {name} const& element = root.Get{name}(); "
               f"return std::make_pair(element.Isset{value.field}(), shown(element.Get{value.field}())); }}")
     return (f'    {{"{element.tag}", "{value.xml}", {str(value.use == "required").lower()}, {raw(good)}, {raw(with_it)}, '
-            f"{raw(repeated)}, {raw(without)}, {getter}, {{{bad}}}}},")
+            f"{raw(repeated)}, {raw(without)}, {getter}, {{{edges}}}, {{{bad}}}}},")
 
 
 def main():

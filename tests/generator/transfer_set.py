@@ -114,15 +114,16 @@ class Writer:
 def header(tag, extra=""):
     return ('<?xml version="1.0" encoding="UTF-8"?>\n'
             f'<{tag} VersionMajor="4" VersionMinor="3" ManagementSoftwareManufacturer="Generated" '
-            f'ManagementSoftwareVersion="1.0" DataTransferOrigin="1"{extra}>\n')
+            f'ManagementSoftwareVersion="1.0" TaskControllerManufacturer="Generated" TaskControllerVersion="2.0" '
+            f'DataTransferOrigin="1"{extra}>\n')
 
 
 def write_links(path, ids, rng):
     with open(path, "w", encoding="utf-8") as file:
-        file.write(header("ISO11783LinkList", ' FileVersion="1"') + '  <LGP A="LGP1" B="1" E="Generated">\n')
+        file.write(header("ISO11783LinkList", ' FileVersion="1"') + '  <LGP A="LGP1" B="1" C="0614141000111" D="example" E="Generated">\n')
         for identifier in ids:
             uuid = "-".join("%0*X" % (n, rng.randrange(16**n)) for n in (8, 4, 4, 4, 12))
-            file.write(f'    <LNK A="{identifier}" B="{{{uuid}}}"/>\n')
+            file.write(f'    <LNK A="{identifier}" B="{{{uuid}}}" C="{identifier}"/>\n')
         file.write("  </LGP>\n</ISO11783LinkList>\n")
 
 
@@ -139,7 +140,7 @@ def make(directory, seed, size, profile="mixed"):
     with open(directory / "TASKDATA.XML", "w", encoding="utf-8") as file:
         file.write(header("ISO11783_TaskData", ' lang="en"'))
         file.write('  <P917_Metadata Version="1" CloudJob="true" originationId="USB" jobStatusId="1"/>\n')
-        file.write('  <AFE A="LINKLIST.XML" B="1" C="" D="1"/>\n')
+        file.write('  <AFE A="LINKLIST.XML" B="1" C="" D="1" E="1" F="0"/>\n')
         file.write(writer.element("TCC"))
         for name in externals:
             file.write(f'  <XFR A="{name}" B="1"/>\n')

@@ -75,6 +75,22 @@ def good(value, rng):
     return text[:rule.max_length] if rule.max_length else text
 
 
+def edges(value):
+    """The texts at the very limits of the rule, all of them good."""
+    rule = value.rule
+    if rule.one_of:
+        return list(rule.one_of)
+    if rule.minimum is not None:
+        return [rule.minimum, rule.maximum, "+" + rule.maximum, "000" + rule.maximum, f" {rule.maximum} "]
+    if rule.low is not None:
+        return [rule.low, rule.high, rule.high + "000"]
+    if rule.max_length is not None and not rule.pattern:
+        return ["", "T" * rule.max_length, "\u7530" * rule.max_length]
+    if rule.name.startswith("id "):
+        return [argument(value) + "1", argument(value) + "-1234567890", argument(value) + "12345678901"]
+    return []
+
+
 BAD_FORMS = {
     "integer": ["12a", "", "+", "1.0"],
     "boolean": ["yes", "TRUE", ""],

@@ -39,6 +39,7 @@ struct AttributeRow {
   char const* repeated;
   char const* without;
   std::pair<bool, std::string> (*get)(Root const& root);
+  std::vector<char const*> at_the_limits;
   std::vector<Fault> faults;
 };
 
@@ -81,6 +82,16 @@ TEST_F(Attributes, AreReadAndShowTheirText) {
   for_each_row([&](AttributeRow const& row, Root& root) {
     EXPECT_EQ(0, read(root, row.with_it).code) << row.with_it;
     EXPECT_EQ(std::make_pair(true, std::string(row.text)), row.get(root));
+  });
+}
+
+TEST_F(Attributes, AreReadAtTheVeryLimitsOfTheirRule) {
+  for_each_row([&](AttributeRow const& row, Root&) {
+    for (char const* document : row.at_the_limits) {
+      Root root;
+      EXPECT_EQ(0, read(root, document).code) << document;
+      EXPECT_TRUE(row.get(root).first);
+    }
   });
 }
 

@@ -21,6 +21,9 @@ run("the installation" ${CMAKE_COMMAND} --install ${build_dir} --prefix ${instal
 file(RENAME ${installed} ${prefix})
 
 # Nothing that a host's build reads may lead back to where the library was built or first installed.
+if(NOT EXISTS ${prefix}/share/isoxml/isoxml.xsd)
+  message(FATAL_ERROR "the XML Schema is not installed")
+endif()
 file(GLOB_RECURSE described ${prefix}/*.cmake ${prefix}/*.pc)
 list(LENGTH described number_of_files)
 if(number_of_files LESS 4)  # configuration, version, targets, pkg-config
