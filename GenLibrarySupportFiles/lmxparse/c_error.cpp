@@ -1,8 +1,6 @@
 #include "GenLibrarySupportFiles/lmxparse/c_error.h"
 
-#include <locale>
 #include <ostream>
-#include <sstream>
 
 #include "GenLibrarySupportFiles/lmxparse/getters.h"
 
@@ -73,21 +71,19 @@ void s_debug_error::set(elmx_error code, std::string const& item, char const* fi
   m_xml_line = xml_line;
 }
 
+// Built as text and written in one piece, so neither locale nor width of the host's stream has a say.
 std::ostream& s_debug_error::to_stream(std::ostream& stream) const {
-  stream << "Error: " << get_error_description(m_code) << '\n';
-  if (m_code == ELMX_OK) return stream;
-  stream << "Item: " << m_item << '\n' << "Program file: " << mp_code_file << '\n';
-  // Through std::to_string: the host's stream may group digits, and its locale is not ours to change.
-  stream << "Program line: " << std::to_string(m_code_line) << '\n';
-  if (m_xml_line != -1) stream << "XML line: " << std::to_string(m_xml_line) << '\n';
-  return stream;
+  const std::string text = to_string();
+  return stream.write(text.data(), static_cast<std::streamsize>(text.size()));
 }
 
 std::string s_debug_error::to_string() const {
-  std::ostringstream stream;
-  stream.imbue(std::locale::classic());
-  to_stream(stream);
-  return stream.str();
+  std::string text = std::string("Error: ") + get_error_description(m_code) + '\n';
+  if (m_code == ELMX_OK) return text;
+  text += "Item: " + m_item + "\nProgram file: " + mp_code_file +
+          "\nProgram line: " + std::to_string(m_code_line) + '\n';
+  if (m_xml_line != -1) text += "XML line: " + std::to_string(m_xml_line) + '\n';
+  return text;
 }
 
 std::ostream& operator<<(std::ostream& stream, s_debug_error const& error) { return error.to_stream(stream); }
