@@ -52,8 +52,8 @@ prepare_tests() {
   locale -a | grep -qix 'de_DE.utf-\?8' || as_root localedef -i de_DE -f UTF-8 de_DE.UTF-8
 }
 
-# build_preset <preset>: configures and builds on all processors.
+# build_preset <preset>: configures and builds, on all processors, what the preset's tests need.
 build_preset() {
   cmake --preset "$1" &&
-    cmake --build "build/$1" --parallel "$(nproc)"
+    cmake --build --preset "$1" --parallel "$(nproc)"
 }
