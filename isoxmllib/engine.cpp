@@ -1,12 +1,12 @@
 #include "isoxmllib/engine.h"
 
-namespace binding {
+#include "isoxmllib/namespace_maps.h"
 
-lmx::s_ns_map const no_namespaces[] = {{0, nullptr, nullptr}};
+namespace binding {
 
 void begin_document(lmx::xmlReader& reader) {
   reader.m_code_file = code_file;
-  reader.set_ns_map(no_namespaces);
+  reader.set_ns_map(ns_map_reader);
   reader.m_skip_unknown = true;
   reader.m_stack_guard.begin();
 }

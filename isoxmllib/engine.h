@@ -22,9 +22,6 @@ namespace binding {
 /// Error records name the library's element classes by this one file name.
 inline constexpr char const code_file[] = "isoxmllib";
 
-/// The namespaces that the schema binds: none.
-extern lmx::s_ns_map const no_namespaces[];
-
 // ---- Elements ----
 
 /// An element whose children must not be missing is refused with 32 when it is empty and with 21 when it

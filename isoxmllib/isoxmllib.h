@@ -5,6 +5,7 @@
 #include "isoxmllib/enums.h"           // IWYU pragma: export
 #include "isoxmllib/field_geometry.h"  // IWYU pragma: export
 #include "isoxmllib/master_data.h"     // IWYU pragma: export
+#include "isoxmllib/namespace_maps.h"  // IWYU pragma: export
 #include "isoxmllib/question.h"        // IWYU pragma: export
 #include "isoxmllib/root.h"            // IWYU pragma: export
 #include "isoxmllib/task.h"            // IWYU pragma: export

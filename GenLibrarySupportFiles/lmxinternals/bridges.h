@@ -8,6 +8,7 @@
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
+#include "GenLibrarySupportFiles/lmxtypes/conversions.h"
 
 namespace lmx {
 
@@ -46,6 +47,15 @@ template <class T>
 elmx_error value_validator_empty(c_xml_reader&, T const&) {
   return ELMX_OK;
 }
+
+/// The value of a type without content.
+struct c_empty {};
+
+/// The spec of a type without content. It must never be used to convert.
+inline c_validation_spec<c_empty> const validation_spec_empty(EXWS_PRESERVE, "", &lexical_validator_empty,
+                                                              &value_validator_empty<c_empty>,
+                                                              &v_to_o_not_used<c_empty>,
+                                                              &o_to_v_not_used<c_empty>);
 
 /// A typed field seen from untyped code.
 class ISOXML_API c_untyped_unmarshal_bridge {

@@ -572,4 +572,13 @@ TEST(AccessorDeathTest, ConstGetStopsWithItsConditionsText) {
   EXPECT_DEATH(data.GetAttachedFile(0), "chosen == AttachedFileChosen");
 }
 
+TEST(NamespaceMaps, BindNothing) {
+  for (lmx::s_ns_map const* map :
+       {ns_map_reader, ns_map_writer_1, ns_map_writer_2, ns_map_writer_3, ns_map_writer_4, ns_map_writer_5}) {
+    EXPECT_EQ(0, map->m_id);
+    EXPECT_EQ(nullptr, map->mp_prefix);
+    EXPECT_EQ(nullptr, map->mp_uri);
+  }
+}
+
 }  // namespace

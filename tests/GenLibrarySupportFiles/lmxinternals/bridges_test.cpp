@@ -323,4 +323,18 @@ TEST(OptionalField, TakesEveryTypeAndTruthValues) {
   expect_read<lmx::ct_simple_pod_optional, bool>("0", false);
 }
 
+TEST(SpecOfATypeWithoutContent, RefusesAnyTextAndKeepsBlanks) {
+  MemoryRead read("");
+  lmx::c_xml_reader reader(read);
+  EXPECT_EQ(lmx::EXWS_PRESERVE, lmx::validation_spec_empty.m_whitespace);
+  EXPECT_EQ(0, lmx::validation_spec_empty.mp_lexical_validator(reader, ""));
+  EXPECT_EQ(35, lmx::validation_spec_empty.mp_lexical_validator(reader, " "));
+  EXPECT_EQ(0, lmx::validation_spec_empty.mp_value_validator(reader, lmx::c_empty()));
+}
+
+TEST(SpecOfATypeWithoutContentDeathTest, NeverConverts) {
+  lmx::c_empty value;
+  EXPECT_DEATH(lmx::validation_spec_empty.mp_v_to_o(value, ""), "v_to_o_not_used");
+}
+
 }  // namespace
