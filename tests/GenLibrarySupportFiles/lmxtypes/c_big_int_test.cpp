@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstdint>
 #include <iomanip>
 #include <limits>
@@ -93,14 +94,15 @@ TEST(BigInt, TakesMachineNumbers) {
   EXPECT_EQ("5", value.get_as_string());
 }
 
+#if LONG_MAX > INT_MAX  // elsewhere there is nothing to cut
 TEST(BigInt, CutsLongTo32Bits) {
-  if (std::numeric_limits<long>::digits == 31) GTEST_SKIP() << "long has 32 bits here";
   const long beyond = static_cast<long>((std::int64_t{1} << 32) + 5);
   EXPECT_EQ("5", c_big_int(beyond).get_as_string());
   c_big_int value;
   value = beyond;
   EXPECT_EQ("5", value.get_as_string());
 }
+#endif
 
 TEST(BigInt, CopiesAndLeavesZeroWhenMovedFrom) {
   c_big_int a("-123456789012345678901234567890");
@@ -216,7 +218,7 @@ TEST_P(BigIntRelation, HoldsInEveryFormAndDirection) {
 
 TEST_P(BigIntRelation, HoldsBetweenTwoValues) {
   const auto& [caption, value_text, text, order] = GetParam();
-  if (text != nullptr && *text == '\0') GTEST_SKIP() << "no value behaves like the empty text";
+  if (text != nullptr && *text == '\0') return;  // no value behaves like the empty text
   const c_big_int a(value_text);
   const c_big_int b(text);
   expect_order(a, b, order, caption);
