@@ -11,6 +11,10 @@
 #include "GenLibrarySupportFiles/lmxparse/error_codes.h"
 #include "isoxmllib/fwd.h"
 #include "isoxmllib/root.h"
+#include "transfer/ISORxMap.h"
+#include "transfer/IsoField.h"
+#include "transfer/IsoRecords.h"
+#include "transfer/TaskInfo.h"
 #include "transfer/reader/xmlReader.h"
 
 /// One document that could not be opened or read.
@@ -71,6 +75,40 @@ class ISOXML_API IsoXmlParser {
   std::string getIsoUuid(std::string const& objectId) const;
   /// All pairs of the link list, from object identifier to UUID. Borrowed until the parser dies.
   std::map<std::string, std::string> const& getUuidLinks() const { return uuidLinks; }
+
+  // Views. Each call builds its result anew from all documents, the main one first, then the external files
+  // in the order of their references; within a document in the order in which the elements ended. Nothing is
+  // filtered, sorted or merged. With no document a view is empty; nothing is ever reported. Records own
+  // copies and outlive the parser. Elements are borrowed until the parser dies and must not be deleted.
+
+  /// All farms, with their own and their customers' UUIDs.
+  std::vector<IsoFarm> getFarms() const;
+  /// All customers, with their UUIDs.
+  std::vector<IsoGrower> getGrowers() const;
+  /// All attached files, the one that named the link list among them.
+  std::vector<IsoAttachedFile> getAttachedFiles() const;
+  std::vector<Task*> getTasks() const;
+  std::vector<Product*> getProducts() const;
+  std::vector<ProductGroup*> getProductGroups() const;
+  std::vector<ValuePresentation*> getValuePresentations() const;
+  std::vector<P917Question*> getQuestions() const;
+  std::vector<CropType*> getCropTypes() const;
+
+  /// All fields with their geometry and all UUIDs. Frees the boundary polygons of guidance patterns, as
+  /// `IsoField` tells.
+  std::vector<IsoField> getFields();
+  /// The elements that `getFields` makes its records from, in the same order.
+  std::vector<Field*> getLmxFields() const;
+  /// One field, with the UUIDs of the field itself, its farm, its customer and its guidance lines only.
+  /// `field` must not be null; its pattern boundaries are freed, as `IsoField` tells.
+  IsoField fillIsoField(Field* field);
+
+  /// All tasks, whatever their state.
+  std::vector<lmx::TaskInfo> getTaskInfoList() const;
+  /// Fills `map` for the task that has the identifier of `info`: zones from the documents, the last task of
+  /// that identifier winning, all else from `info`. Without such a task `taskId` and `treatmentZones` keep
+  /// what they held: hand in a fresh map to tell.
+  void getISORxMap(lmx::TaskInfo info, lmx::ISORxMap& map) const;
 
   /// Opens and reads one document of the directory. Empty on failure, which adds a record to `getErrors`.
   /// @param error  receives the code; may be null

@@ -1,7 +1,9 @@
 #include "transfer/reader/xmlReader.h"
 
 #include <mutex>
+#include <utility>
 
+#include "isoxmllib/task.h"
 #include "isoxmllib/task_data.h"
 
 namespace lmx {
@@ -27,6 +29,30 @@ xmlReader::~xmlReader() = default;
 
 void xmlReader::setP917Metadata(P917Metadata* metadata) {
   p917Metadata = keep(std::unique_ptr<P917Metadata>(metadata->clone()));
+}
+
+std::vector<TaskInfo> xmlReader::getTaskInfoList() const {
+  std::vector<TaskInfo> records;
+  for (Task const* task : tasks) {
+    TaskInfo record;
+    record.id = task->GetId();
+    record.customerIdRef = task->GetCustomerIdRef();
+    record.farmIdRef = task->GetFarmIdRef();
+    record.fieldIdRef = task->GetFieldIdRef();
+    record.designator = task->GetDesignator();
+    record.jobMetaData = task->GetP007JobMetaData();
+    if (task->IssetDefaultTreatmentZoneCode()) {
+      record.defaultTreatmentZoneCode = task->GetDefaultTreatmentZoneCode();
+    }
+    if (task->IssetPositionLostTreatmentZoneCode()) {
+      record.positionLostTreatmentZoneCode = task->GetPositionLostTreatmentZoneCode();
+    }
+    if (task->IssetOutOfFieldTreatmentZoneCode()) {
+      record.outOfFieldTreatmentZoneCode = task->GetOutOfFieldTreatmentZoneCode();
+    }
+    records.push_back(std::move(record));
+  }
+  return records;
 }
 
 }  // namespace lmx

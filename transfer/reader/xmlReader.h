@@ -9,6 +9,8 @@
 #include "GenLibrarySupportFiles/lmxparse/c_read.h"
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
 #include "isoxmllib/fwd.h"
+#include "transfer/ISORxMap.h"
+#include "transfer/TaskInfo.h"
 
 namespace lmx {
 
@@ -68,6 +70,15 @@ class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
   std::vector<ProductGroup*> getProductGroupContainer() const { return productGroups; }
   /// The last "P917_Metadata" that was completed, or null. Valid until the process ends.
   P917Metadata* getP917Metadata() const { return p917Metadata; }
+
+  /// A record for each task, in the order of `getTaskContainer`.
+  std::vector<TaskInfo> getTaskInfoList() const;
+  /// A record for each treatment zone of `task`, in document order. Neither the pointer, which must not be
+  /// null, nor the task is changed.
+  static std::vector<TreatmentZone> getTZNList(Task*& task);
+  /// A record for each ring of `rings`, in order; none when no ring is chosen. Neither the pointer, which
+  /// must not be null, nor what it points at is changed.
+  static std::vector<Polygon> getPolygonList(InnerPolygon*& rings);
 
  private:
   std::vector<Grower*> growers;
