@@ -46,25 +46,33 @@ void c_big_int::p_init(char const* text) {
 }
 
 // Wraps in 32 bits as unsigned arithmetic does, so that no digit text can overflow a signed number.
-std::int32_t c_big_int::get(bool* overflow) const noexcept {
+std::int32_t c_big_int::p_get(std::string_view text, bool* overflow) noexcept {
   std::uint32_t value = 0;
   bool too_great = false;
-  for (char const c : m_text) {
+  for (char const c : text) {
     if (!is_digit(c)) continue;  // the sign
     auto const digit = static_cast<std::uint32_t>(c - '0');
     if (value > 214748364u || digit > 2147483647u - 10u * value) too_great = true;
     value = 10u * value + digit;
   }
   if (overflow != nullptr) *overflow = too_great;
-  return static_cast<std::int32_t>(p_is_negative() ? 0u - value : value);
+  return static_cast<std::int32_t>(text.front() == '-' ? 0u - value : value);
 }
 
-double c_big_int::get_as_float() const noexcept {
+double c_big_int::p_get_as_float(std::string_view text) noexcept {
   double value = 0.0;
-  for (char const c : m_text) {
+  for (char const c : text) {
     if (is_digit(c)) value = (c - '0') + value * 10.0;
   }
-  return p_is_negative() ? -value : value;
+  return text.front() == '-' ? -value : value;
+}
+
+// Without leading zeros the longer number has the greater magnitude.
+bool c_big_int::p_is_greater(std::string_view a, std::string_view b) noexcept {
+  bool const is_negative = a.front() == '-';
+  if (is_negative != (b.front() == '-')) return !is_negative;
+  if (a.size() != b.size()) return (a.size() > b.size()) != is_negative;
+  return is_negative ? a < b : a > b;
 }
 
 bool c_big_int::p_equals(char const* text) const noexcept {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -53,10 +54,10 @@ class ISOXML_API c_big_int {
   std::string get_as_string() const { return m_text; }
   /// The value as a signed 32-bit number, wrapped if it does not fit. `overflow`, which may be null, is set
   /// to whether the magnitude is above 2147483647: it is for -2147483648, though that value comes out right.
-  std::int32_t get(bool* overflow = nullptr) const noexcept;
+  std::int32_t get(bool* overflow = nullptr) const noexcept { return p_get(m_text, overflow); }
   /// The value as a double, built up digit by digit from the left. Digits beyond what a double holds are
   /// rounded away at each step; above 308 digits the result is an infinity.
-  double get_as_float() const noexcept;
+  double get_as_float() const noexcept { return p_get_as_float(m_text); }
 
   // Relations. A sign and leading zeros of a text do not matter: "+5" and "0005" equal 5, "-000" equals 0.
   // A null text counts as "0". An empty text equals nothing and nothing is greater than it, so every value
@@ -98,7 +99,7 @@ class ISOXML_API c_big_int {
   friend bool operator<=(c_big_int const& a, c_big_int const& b) noexcept { return a <= b.m_text; }
 
  private:
-  friend class c_decimal;  // reads the digits in place
+  friend class c_decimal;  // keeps its integral digits as the text of such a number
   friend ISOXML_API std::ostream& operator<<(std::ostream& os, c_big_int const& value);
 
   void p_init(char const* text);
@@ -108,6 +109,10 @@ class ISOXML_API c_big_int {
   }
   bool p_is_negative() const noexcept { return m_text.front() == '-'; }
   bool p_is_zero() const noexcept { return m_text.front() == '0'; }
+  // What the text of a value, as `m_text` has it, stands for.
+  static std::int32_t p_get(std::string_view text, bool* overflow) noexcept;
+  static double p_get_as_float(std::string_view text) noexcept;
+  static bool p_is_greater(std::string_view a, std::string_view b) noexcept;
   bool p_equals(char const* text) const noexcept;
   bool p_is_greater(char const* text) const noexcept;
 

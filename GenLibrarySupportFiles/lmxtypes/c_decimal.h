@@ -1,15 +1,18 @@
 // Decimals kept as they are written. A coordinate read from a document is written back with every digit it
-// had, so a value is its sign, its integral digits and its fraction digits as text. There is no arithmetic:
+// had, so a value is its text: a sign, integral digits, a point and fraction digits. There is no arithmetic:
 // values are read, compared, converted to and from machine numbers, and written.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_big_int.h"
+#include "GenLibrarySupportFiles/lmxtypes/compact_text.h"
 
 namespace lmx {
 
@@ -30,7 +33,7 @@ class ISOXML_API c_decimal {
   };
 
   /// Zero.
-  c_decimal() = default;
+  c_decimal() noexcept : m_text(std::string_view("0")) {}
   /// Reads an optional sign, digits, and after a "." more digits, under every locale; drops whatever
   /// follows. No digits give zero; a null pointer counts as the empty text.
   c_decimal(char const* text) { p_init(text, point_only); }
@@ -93,10 +96,15 @@ class ISOXML_API c_decimal {
   /// ones. Fraction digits beyond the 290th are left out, so that the divisor stays finite.
   double get_as_float() const noexcept;
   /// The text that operator<< writes.
-  std::string get_as_string() const;
+  std::string get_as_string() const { return std::string(m_text.view()); }
+
+  /// Takes text that is as get_as_string() gives it, which nothing checks.
+  void set_canonical(char const* begin, char const* end) {
+    m_text.assign({begin, static_cast<std::size_t>(end - begin)});
+  }
 
   /// Exchanges the two values.
-  void swap(c_decimal& other) noexcept;
+  void swap(c_decimal& other) noexcept { m_text.swap(other.m_text); }
 
   /// True for an optional sign and digits with at most one "." in front, behind or among them, and nothing
   /// else: "5", "5.", ".5". No exponent, no white space; a sign or a "." needs a digit.
@@ -112,10 +120,16 @@ class ISOXML_API c_decimal {
  private:
   friend ISOXML_API std::ostream& operator<<(std::ostream& os, c_decimal const& value);
 
+  // The text taken apart. The integral digits may have a "-" of their own.
+  struct s_parts {
+    bool is_negative;
+    std::string_view integral;
+    std::string_view fraction;
+  };
+  s_parts p_parts() const noexcept;
   void p_init(char const* text, e_decimal_separator_handling handling);
   static bool p_skip_decimal_separator(char const*& text, e_decimal_separator_handling handling);
-  void p_cull_right_hand_zeros();
-  static int p_fraction_comp(std::string const& a, std::string const& b) noexcept;
+  static int p_fraction_comp(std::string_view a, std::string_view b) noexcept;
   c_decimal& p_take(c_decimal value) noexcept {
     swap(value);
     return *this;
@@ -123,9 +137,7 @@ class ISOXML_API c_decimal {
   bool p_equals(c_decimal const& other) const noexcept;
   bool p_is_greater(c_decimal const& other) const noexcept;
 
-  bool m_is_negative = false;
-  c_big_int m_integral;
-  std::string m_fraction;
+  detail::compact_text m_text;  // as it is written
 };
 
 /// Writes "-" if the value is negative, the integral digits, and "." with the fraction digits if there are
