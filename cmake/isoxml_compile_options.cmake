@@ -8,6 +8,10 @@ endif()
 # A fused multiply-add would change the last bit of a coordinate from one machine to the next.
 add_compile_options(-ffp-contract=off)
 
+# The library binds its own functions to itself when it is linked (see the dynamic list), so the compiler may
+# inline them, which it otherwise leaves in case a host replaces one.
+add_compile_options(-fno-semantic-interposition)
+
 if(ISOXML_SANITIZE)
   add_compile_options(-fsanitize=${ISOXML_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${ISOXML_SANITIZE})

@@ -168,6 +168,16 @@ bool Device::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return false;
 }
+bool Device::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_DVC_49, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_SoftwareVersion, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_ClientName, spec_bytes_8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_SerialNumber, spec_text_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Device::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DVC", __LINE__, m_Id.is_set() && m_ClientName.is_set() && m_StructureLabel.is_set() && m_LocalizationLabel.is_set());
 }
@@ -292,6 +302,17 @@ bool DeviceElement::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
+bool DeviceElement::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_DET_53, attribute);
+    case 'B': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_7, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_Number, spec_range_0_to_4095_uint16, attribute);
+    case 'F': return binding::accept_attribute(reader, m_ParentObjectId, spec_range_0_to_65534_uint16, attribute);
+  }
+  return false;
+}
 lmx::elmx_error DeviceElement::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DET", __LINE__, m_Id.is_set() && m_ObjectId.is_set() && m_Type.is_set() && m_Number.is_set() && m_ParentObjectId.is_set());
 }
@@ -357,6 +378,12 @@ bool DeviceObjectReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::el
   }
   return false;
 }
+bool DeviceObjectReference::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_DeviceObjectId, spec_range_1_to_65534_uint16, attribute);
+  }
+  return false;
+}
 lmx::elmx_error DeviceObjectReference::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DOR", __LINE__, m_DeviceObjectId.is_set());
 }
@@ -411,6 +438,17 @@ bool DeviceProcessData::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
     case attr_TriggerMethods: return read_attribute(reader, m_TriggerMethods, spec_range_0_to_31_uint8, __LINE__, error);
     case attr_Designator: return read_attribute(reader, m_Designator, spec_text_32, __LINE__, error);
     case attr_DeviceValuePresentationObjectId: return read_attribute(reader, m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, __LINE__, error);
+  }
+  return false;
+}
+bool DeviceProcessData::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'B': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Property, spec_range_0_to_7_uint8, attribute);
+    case 'D': return binding::accept_attribute(reader, m_TriggerMethods, spec_range_0_to_31_uint8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, attribute);
   }
   return false;
 }
@@ -472,6 +510,16 @@ bool DeviceProperty::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_erro
   }
   return false;
 }
+bool DeviceProperty::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'B': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Value, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, attribute);
+  }
+  return false;
+}
 lmx::elmx_error DeviceProperty::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DPT", __LINE__, m_ObjectId.is_set() && m_DDI.is_set() && m_Value.is_set());
 }
@@ -526,6 +574,16 @@ bool DeviceValuePresentation::unmarshal_attributes(lmx::xmlReader& reader, lmx::
     case attr_Scale: return read_attribute(reader, m_Scale, spec_scale_factor, __LINE__, error);
     case attr_NumberOfDecimals: return read_attribute(reader, m_NumberOfDecimals, spec_range_0_to_7_uint8, __LINE__, error);
     case attr_UnitDesignator: return read_attribute(reader, m_UnitDesignator, spec_text_32, __LINE__, error);
+  }
+  return false;
+}
+bool DeviceValuePresentation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Offset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Scale, spec_scale_factor, attribute);
+    case 'D': return binding::accept_attribute(reader, m_NumberOfDecimals, spec_range_0_to_7_uint8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_UnitDesignator, spec_text_32, attribute);
   }
   return false;
 }

@@ -223,6 +223,8 @@ class ISOXML_API Device {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -390,6 +392,8 @@ class ISOXML_API DeviceElement {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -445,6 +449,8 @@ class ISOXML_API DeviceObjectReference {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -527,6 +533,8 @@ class ISOXML_API DeviceProcessData {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -607,6 +615,8 @@ class ISOXML_API DeviceProperty {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -686,6 +696,8 @@ class ISOXML_API DeviceValuePresentation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);

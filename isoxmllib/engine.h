@@ -76,6 +76,10 @@ lmx::elmx_error read_element(X& element, lmx::xmlReader& reader, std::string con
   lmx::c_known_elements_selector const selector(reader, known);
   element_helper<X> helper(element, reader);
   helper.m_empty_allowed = shape.empty_allowed;
+  // The usual attributes first and at once; the helper goes on from the first that is unusual.
+  while (lmx::plain_attribute const* const attribute = reader.next_plain_attribute()) {
+    if (!element.accept_attribute(reader, *attribute)) break;
+  }
   lmx::elmx_error const error = (helper.*shape.read_content)(code_file, shape.line);
   if (error == lmx::ELMX_OK && collect != nullptr) (reader.*collect)(&element);
   return error;
@@ -105,6 +109,19 @@ bool read_attribute(lmx::xmlReader& reader, Field<T, V, C>& field, lmx::c_valida
   reader.m_code_line = line;
   lmx::c_unmarshal_bridge<lmx::xmlReader, Field<T, V, C>, T, V> bridge(reader, spec, field);
   *error = reader.unmarshal_attribute_value_impl(bridge, spec);
+  return true;
+}
+
+/// Takes an attribute that lies plain in the source's buffer and whose value is the usual one. False, with
+/// nothing changed, where `read_attribute` has to decide.
+template <template <class, class, class> class Field, class T, class V, class C>
+bool accept_attribute(lmx::xmlReader& reader, Field<T, V, C>& field, lmx::c_validation_spec<T> const& spec,
+                      lmx::plain_attribute const& attribute) {
+  if (spec.mp_accept == nullptr || field.is_set()) return false;
+  char const* const text = attribute.value();
+  if (!spec.mp_accept(field.ref_value(), {text, text + attribute.value_length})) return false;
+  field.mark_value_set();
+  reader.take_plain_attribute(spec.m_whitespace);
   return true;
 }
 

@@ -209,6 +209,20 @@ bool Field::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error)
   }
   return false;
 }
+bool Field::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_PFD_74, attribute);
+    case 'B': return binding::accept_attribute(reader, m_FieldCode, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Area, spec_range_0_to_4294967294_uint32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_GrowerIdRef, spec_id_CTR_75, attribute);
+    case 'F': return binding::accept_attribute(reader, m_FarmIdRef, spec_id_FRM_76, attribute);
+    case 'G': return binding::accept_attribute(reader, m_CropTypeIdRef, spec_id_CTP_77, attribute);
+    case 'H': return binding::accept_attribute(reader, m_CropVarietyIdRef, spec_id_CVT_78, attribute);
+    case 'I': return binding::accept_attribute(reader, m_FieldIdRef, spec_id_PFD_79, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Field::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PFD", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_Area.is_set());
 }
@@ -329,9 +343,19 @@ bool Polygon::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* erro
     case attr_Area: return read_attribute(reader, m_Area, spec_range_0_to_4294967294_uint32, __LINE__, error);
     case attr_Colour: return read_attribute(reader, m_Colour, spec_range_0_to_254_uint8, __LINE__, error);
     case attr_Id: return read_attribute(reader, m_Id, spec_id_PLN_82, __LINE__, error);
-    case attr_P007PolygonMetaData: return read_attribute(reader, m_P007PolygonMetaData, spec_any_text, __LINE__, error);
-    case attr_P917SprayProperty: return read_attribute(reader, m_P917SprayProperty, spec_one_of_1_2, __LINE__, error);
-    case attr_P917PlantProperty: return read_attribute(reader, m_P917PlantProperty, spec_one_of_1_2, __LINE__, error);
+    case attr_P007PolygonMetaData: return read_attribute(reader, m_rare.get_or_create().m_P007PolygonMetaData, spec_any_text, __LINE__, error);
+    case attr_P917SprayProperty: return read_attribute(reader, m_rare.get_or_create().m_P917SprayProperty, spec_one_of_1_2, __LINE__, error);
+    case attr_P917PlantProperty: return read_attribute(reader, m_rare.get_or_create().m_P917PlantProperty, spec_one_of_1_2, __LINE__, error);
+  }
+  return false;
+}
+bool Polygon::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_12, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Area, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_Id, spec_id_PLN_82, attribute);
   }
   return false;
 }
@@ -361,10 +385,10 @@ void Polygon::ClearInnerPolygon() { mInnerPolygon.clear(); }
 std::size_t Polygon::SizeInnerPolygon() const { return mInnerPolygon.size(); }
 elmx_enums Polygon::GetenumType() const { return enum_code(list_31, m_Type.get()); }
 bool Polygon::SetenumType(elmx_enums code) { return set_enum(list_31, code, m_Type); }
-elmx_enums Polygon::GetenumP917SprayProperty() const { return enum_code(list_2, m_P917SprayProperty.get()); }
-bool Polygon::SetenumP917SprayProperty(elmx_enums code) { return set_enum(list_2, code, m_P917SprayProperty); }
-elmx_enums Polygon::GetenumP917PlantProperty() const { return enum_code(list_2, m_P917PlantProperty.get()); }
-bool Polygon::SetenumP917PlantProperty(elmx_enums code) { return set_enum(list_2, code, m_P917PlantProperty); }
+elmx_enums Polygon::GetenumP917SprayProperty() const { return enum_code(list_2, m_rare.get().m_P917SprayProperty.get()); }
+bool Polygon::SetenumP917SprayProperty(elmx_enums code) { return set_enum(list_2, code, m_rare.get_or_create().m_P917SprayProperty); }
+elmx_enums Polygon::GetenumP917PlantProperty() const { return enum_code(list_2, m_rare.get().m_P917PlantProperty.get()); }
+bool Polygon::SetenumP917PlantProperty(elmx_enums code) { return set_enum(list_2, code, m_rare.get_or_create().m_P917PlantProperty); }
 
 // ---- LineString ----
 
@@ -462,6 +486,17 @@ bool LineString::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return false;
 }
+bool LineString::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_9, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Width, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Length, spec_range_0_to_4294967294_uint32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'F': return binding::accept_attribute(reader, m_Id, spec_id_LSG_69, attribute);
+  }
+  return false;
+}
 lmx::elmx_error LineString::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "LSG", __LINE__, m_Type.is_set());
 }
@@ -531,16 +566,32 @@ bool Point::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error)
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
   switch (reader.m_event) {
     case attr_Type: return read_attribute(reader, m_Type, spec_one_of_1_to_11, __LINE__, error);
-    case attr_Designator: return read_attribute(reader, m_Designator, spec_text_32, __LINE__, error);
+    case attr_Designator: return read_attribute(reader, m_rare.get_or_create().m_Designator, spec_text_32, __LINE__, error);
     case attr_North: return read_attribute(reader, m_North, spec_degrees_latitude, __LINE__, error);
     case attr_East: return read_attribute(reader, m_East, spec_degrees_longitude, __LINE__, error);
-    case attr_Altitude: return read_attribute(reader, m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, __LINE__, error);
-    case attr_Colour: return read_attribute(reader, m_Colour, spec_range_0_to_254_uint8, __LINE__, error);
-    case attr_Id: return read_attribute(reader, m_Id, spec_id_PNT_80, __LINE__, error);
-    case attr_HorizontalAccuracy: return read_attribute(reader, m_HorizontalAccuracy, spec_accuracy, __LINE__, error);
-    case attr_VerticalAccuracy: return read_attribute(reader, m_VerticalAccuracy, spec_accuracy, __LINE__, error);
-    case attr_Filename: return read_attribute(reader, m_Filename, spec_point_file_81, __LINE__, error);
-    case attr_FileLength: return read_attribute(reader, m_FileLength, spec_range_0_to_4294967294_uint32, __LINE__, error);
+    case attr_Altitude: return read_attribute(reader, m_rare.get_or_create().m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, __LINE__, error);
+    case attr_Colour: return read_attribute(reader, m_rare.get_or_create().m_Colour, spec_range_0_to_254_uint8, __LINE__, error);
+    case attr_Id: return read_attribute(reader, m_rare.get_or_create().m_Id, spec_id_PNT_80, __LINE__, error);
+    case attr_HorizontalAccuracy: return read_attribute(reader, m_rare.get_or_create().m_HorizontalAccuracy, spec_accuracy, __LINE__, error);
+    case attr_VerticalAccuracy: return read_attribute(reader, m_rare.get_or_create().m_VerticalAccuracy, spec_accuracy, __LINE__, error);
+    case attr_Filename: return read_attribute(reader, m_rare.get_or_create().m_Filename, spec_point_file_81, __LINE__, error);
+    case attr_FileLength: return read_attribute(reader, m_rare.get_or_create().m_FileLength, spec_range_0_to_4294967294_uint32, __LINE__, error);
+  }
+  return false;
+}
+bool Point::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_11, attribute);
+    case 'B': return binding::accept_attribute(reader, m_rare.get_or_create().m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_North, spec_degrees_latitude, attribute);
+    case 'D': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
+    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'G': return binding::accept_attribute(reader, m_rare.get_or_create().m_Id, spec_id_PNT_80, attribute);
+    case 'H': return binding::accept_attribute(reader, m_rare.get_or_create().m_HorizontalAccuracy, spec_accuracy, attribute);
+    case 'I': return binding::accept_attribute(reader, m_rare.get_or_create().m_VerticalAccuracy, spec_accuracy, attribute);
+    case 'J': return binding::accept_attribute(reader, m_rare.get_or_create().m_Filename, spec_point_file_81, attribute);
+    case 'K': return binding::accept_attribute(reader, m_rare.get_or_create().m_FileLength, spec_range_0_to_4294967294_uint32, attribute);
   }
   return false;
 }
@@ -656,6 +707,13 @@ bool GuidanceGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
     case attr_Id: return read_attribute(reader, m_Id, spec_id_GGP_64, __LINE__, error);
     case attr_Designator: return read_attribute(reader, m_Designator, spec_text_32, __LINE__, error);
     case attr_P007GuidanceGroupMetaData: return read_attribute(reader, m_P007GuidanceGroupMetaData, spec_any_text, __LINE__, error);
+  }
+  return false;
+}
+bool GuidanceGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_GGP_64, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
   }
   return false;
 }
@@ -799,6 +857,26 @@ bool GuidancePattern::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
   }
   return false;
 }
+bool GuidancePattern::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_GPN_65, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_5, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Options, spec_one_of_1_to_3, attribute);
+    case 'E': return binding::accept_attribute(reader, m_PropagationDirection, spec_one_of_1_to_4, attribute);
+    case 'F': return binding::accept_attribute(reader, m_Extension, spec_one_of_1_to_4, attribute);
+    case 'G': return binding::accept_attribute(reader, m_Heading, spec_degrees_heading, attribute);
+    case 'H': return binding::accept_attribute(reader, m_Radius, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_GNSSMethod, spec_one_of_0_to_8_16_17, attribute);
+    case 'J': return binding::accept_attribute(reader, m_HorizontalAccuracy, spec_accuracy, attribute);
+    case 'K': return binding::accept_attribute(reader, m_VerticalAccuracy, spec_accuracy, attribute);
+    case 'L': return binding::accept_attribute(reader, m_BaseStationIdRef, spec_id_BSN_66, attribute);
+    case 'M': return binding::accept_attribute(reader, m_OriginalSRID, spec_text_32, attribute);
+    case 'N': return binding::accept_attribute(reader, m_NumberOfSwathsLeft, spec_range_0_to_4294967294_uint32, attribute);
+    case 'O': return binding::accept_attribute(reader, m_NumberOfSwathsRight, spec_range_0_to_4294967294_uint32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error GuidancePattern::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "GPN", __LINE__, m_Id.is_set() && m_Type.is_set());
 }
@@ -930,6 +1008,12 @@ bool GuidanceAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_
   }
   return false;
 }
+bool GuidanceAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_GuidanceGroupIdRef, spec_id_GGP_63, attribute);
+  }
+  return false;
+}
 lmx::elmx_error GuidanceAllocation::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "GAN", __LINE__, m_GuidanceGroupIdRef.is_set());
 }
@@ -1039,6 +1123,16 @@ bool GuidanceShift::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
+bool GuidanceShift::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_GuidanceGroupIdRef, spec_id_GGP_67, attribute);
+    case 'B': return binding::accept_attribute(reader, m_GuidancePatternIdRef, spec_id_GPN_68, attribute);
+    case 'C': return binding::accept_attribute(reader, m_EastShift, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_NorthShift, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_PropagationOffset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error GuidanceShift::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "GST", __LINE__, m_GuidanceGroupIdRef.is_set() && m_GuidancePatternIdRef.is_set());
 }
@@ -1098,6 +1192,16 @@ bool BaseStation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* 
     case attr_North: return read_attribute(reader, m_North, spec_degrees_latitude, __LINE__, error);
     case attr_East: return read_attribute(reader, m_East, spec_degrees_longitude, __LINE__, error);
     case attr_Altitude: return read_attribute(reader, m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, __LINE__, error);
+  }
+  return false;
+}
+bool BaseStation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_BSN_14, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_North, spec_degrees_latitude, attribute);
+    case 'D': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
+    case 'E': return binding::accept_attribute(reader, m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, attribute);
   }
   return false;
 }

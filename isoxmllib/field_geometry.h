@@ -351,6 +351,8 @@ class ISOXML_API Field {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -507,17 +509,17 @@ class ISOXML_API Polygon {
   void UnsetId() { m_Id.unset(); }
 
   /// Extension: metadata of the polygon. Attribute "P007_PolygonMetaData", optional.
-  lmx::elmx_error SetP007PolygonMetaData(std::string const& value) { return m_P007PolygonMetaData.set(value); }
-  std::string const& GetP007PolygonMetaData() const { return m_P007PolygonMetaData.get(); }
-  bool IssetP007PolygonMetaData() const { return m_P007PolygonMetaData.is_set(); }
-  void UnsetP007PolygonMetaData() { m_P007PolygonMetaData.unset(); }
+  lmx::elmx_error SetP007PolygonMetaData(std::string const& value) { return m_rare.get_or_create().m_P007PolygonMetaData.set(value); }
+  std::string const& GetP007PolygonMetaData() const { return m_rare.get().m_P007PolygonMetaData.get(); }
+  bool IssetP007PolygonMetaData() const { return m_rare.get().m_P007PolygonMetaData.is_set(); }
+  void UnsetP007PolygonMetaData() { if (m_rare.is_there()) m_rare.get_or_create().m_P007PolygonMetaData.unset(); }
 
   /// Extension: code for the polygon's spraying property. Attribute "P917_SprayProperty", optional; one of
   /// "1", "2".
-  lmx::elmx_error SetP917SprayProperty(std::string const& value) { return m_P917SprayProperty.set(value); }
-  std::string const& GetP917SprayProperty() const { return m_P917SprayProperty.get(); }
-  bool IssetP917SprayProperty() const { return m_P917SprayProperty.is_set(); }
-  void UnsetP917SprayProperty() { m_P917SprayProperty.unset(); }
+  lmx::elmx_error SetP917SprayProperty(std::string const& value) { return m_rare.get_or_create().m_P917SprayProperty.set(value); }
+  std::string const& GetP917SprayProperty() const { return m_rare.get().m_P917SprayProperty.get(); }
+  bool IssetP917SprayProperty() const { return m_rare.get().m_P917SprayProperty.is_set(); }
+  void UnsetP917SprayProperty() { if (m_rare.is_there()) m_rare.get_or_create().m_P917SprayProperty.unset(); }
   /// Its code; 0 when the text is none of the list.
   elmx_enums GetenumP917SprayProperty() const;
   /// Stores the text of `code`. False, and no change, for a code of another list.
@@ -525,10 +527,10 @@ class ISOXML_API Polygon {
 
   /// Extension: code for the polygon's planting property. Attribute "P917_PlantProperty", optional; one of
   /// "1", "2".
-  lmx::elmx_error SetP917PlantProperty(std::string const& value) { return m_P917PlantProperty.set(value); }
-  std::string const& GetP917PlantProperty() const { return m_P917PlantProperty.get(); }
-  bool IssetP917PlantProperty() const { return m_P917PlantProperty.is_set(); }
-  void UnsetP917PlantProperty() { m_P917PlantProperty.unset(); }
+  lmx::elmx_error SetP917PlantProperty(std::string const& value) { return m_rare.get_or_create().m_P917PlantProperty.set(value); }
+  std::string const& GetP917PlantProperty() const { return m_rare.get().m_P917PlantProperty.get(); }
+  bool IssetP917PlantProperty() const { return m_rare.get().m_P917PlantProperty.is_set(); }
+  void UnsetP917PlantProperty() { if (m_rare.is_there()) m_rare.get_or_create().m_P917PlantProperty.unset(); }
   /// Its code; 0 when the text is none of the list.
   elmx_enums GetenumP917PlantProperty() const;
   /// Stores the text of `code`. False, and no change, for a code of another list.
@@ -559,6 +561,8 @@ class ISOXML_API Polygon {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -573,9 +577,12 @@ class ISOXML_API Polygon {
   lmx::ct_simple_pod_optional<unsigned int> m_Area;
   lmx::ct_simple_pod_optional<unsigned char> m_Colour;
   lmx::ct_simple_pod_optional<std::string> m_Id;
-  lmx::ct_simple_pod_optional<std::string> m_P007PolygonMetaData;
-  lmx::ct_simple_pod_optional<std::string> m_P917SprayProperty;
-  lmx::ct_simple_pod_optional<std::string> m_P917PlantProperty;
+  struct rare_fields {
+    lmx::ct_simple_pod_optional<std::string> m_P007PolygonMetaData;
+    lmx::ct_simple_pod_optional<std::string> m_P917SprayProperty;
+    lmx::ct_simple_pod_optional<std::string> m_P917PlantProperty;
+  };
+  lmx::ct_rare<rare_fields> m_rare;
   lmx::ct_complex_multi<InnerPolygon> mInnerPolygon;
 };
 
@@ -726,6 +733,8 @@ class ISOXML_API LineString {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -778,10 +787,10 @@ class ISOXML_API Point {
   bool SetenumType(elmx_enums code);
 
   /// Name shown to the operator. Attribute "B", optional; at most 32 characters.
-  lmx::elmx_error SetDesignator(std::string const& value) { return m_Designator.set(value); }
-  std::string const& GetDesignator() const { return m_Designator.get(); }
-  bool IssetDesignator() const { return m_Designator.is_set(); }
-  void UnsetDesignator() { m_Designator.unset(); }
+  lmx::elmx_error SetDesignator(std::string const& value) { return m_rare.get_or_create().m_Designator.set(value); }
+  std::string const& GetDesignator() const { return m_rare.get().m_Designator.get(); }
+  bool IssetDesignator() const { return m_rare.get().m_Designator.is_set(); }
+  void UnsetDesignator() { if (m_rare.is_there()) m_rare.get_or_create().m_Designator.unset(); }
 
   /// Latitude in degrees on WGS 84, north positive. Attribute "C", required; -90.0 to 90.0.
   lmx::elmx_error SetNorth(velmo::lmx::high_precision_c_decimal const& value) { return m_North.set(value); }
@@ -796,48 +805,48 @@ class ISOXML_API Point {
   void UnsetEast() { m_East.unset(); }
 
   /// Height in millimetres above the WGS 84 ellipsoid. Attribute "E", optional; -2147483647 to 2147483647.
-  lmx::elmx_error SetAltitude(int const& value) { return m_Altitude.set(value); }
-  int const& GetAltitude() const { return m_Altitude.get(); }
-  bool IssetAltitude() const { return m_Altitude.is_set(); }
-  void UnsetAltitude() { m_Altitude.unset(); }
+  lmx::elmx_error SetAltitude(int const& value) { return m_rare.get_or_create().m_Altitude.set(value); }
+  int const& GetAltitude() const { return m_rare.get().m_Altitude.get(); }
+  bool IssetAltitude() const { return m_rare.get().m_Altitude.is_set(); }
+  void UnsetAltitude() { if (m_rare.is_there()) m_rare.get_or_create().m_Altitude.unset(); }
 
   /// Display colour, as an index into the colour table of ISO 11783-6. Attribute "F", optional; 0 to 254.
-  lmx::elmx_error SetColour(unsigned char const& value) { return m_Colour.set(value); }
-  unsigned char const& GetColour() const { return m_Colour.get(); }
-  bool IssetColour() const { return m_Colour.is_set(); }
-  void UnsetColour() { m_Colour.unset(); }
+  lmx::elmx_error SetColour(unsigned char const& value) { return m_rare.get_or_create().m_Colour.set(value); }
+  unsigned char const& GetColour() const { return m_rare.get().m_Colour.get(); }
+  bool IssetColour() const { return m_rare.get().m_Colour.is_set(); }
+  void UnsetColour() { if (m_rare.is_there()) m_rare.get_or_create().m_Colour.unset(); }
 
   /// Identifier of the point, unique within the transfer set. Attribute "G", optional; 4 to 14 characters,
   /// pattern (PNT|PNT-)([0-9])+.
-  lmx::elmx_error SetId(std::string const& value) { return m_Id.set(value); }
-  std::string const& GetId() const { return m_Id.get(); }
-  bool IssetId() const { return m_Id.is_set(); }
-  void UnsetId() { m_Id.unset(); }
+  lmx::elmx_error SetId(std::string const& value) { return m_rare.get_or_create().m_Id.set(value); }
+  std::string const& GetId() const { return m_rare.get().m_Id.get(); }
+  bool IssetId() const { return m_rare.get().m_Id.is_set(); }
+  void UnsetId() { if (m_rare.is_there()) m_rare.get_or_create().m_Id.unset(); }
 
   /// Horizontal accuracy as RMS error in metres. Attribute "H", optional; 0.0 to 65.0.
-  lmx::elmx_error SetHorizontalAccuracy(velmo::lmx::high_precision_c_decimal const& value) { return m_HorizontalAccuracy.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetHorizontalAccuracy() const { return m_HorizontalAccuracy.get(); }
-  bool IssetHorizontalAccuracy() const { return m_HorizontalAccuracy.is_set(); }
-  void UnsetHorizontalAccuracy() { m_HorizontalAccuracy.unset(); }
+  lmx::elmx_error SetHorizontalAccuracy(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_HorizontalAccuracy.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetHorizontalAccuracy() const { return m_rare.get().m_HorizontalAccuracy.get(); }
+  bool IssetHorizontalAccuracy() const { return m_rare.get().m_HorizontalAccuracy.is_set(); }
+  void UnsetHorizontalAccuracy() { if (m_rare.is_there()) m_rare.get_or_create().m_HorizontalAccuracy.unset(); }
 
   /// Vertical accuracy as RMS error in metres. Attribute "I", optional; 0.0 to 65.0.
-  lmx::elmx_error SetVerticalAccuracy(velmo::lmx::high_precision_c_decimal const& value) { return m_VerticalAccuracy.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetVerticalAccuracy() const { return m_VerticalAccuracy.get(); }
-  bool IssetVerticalAccuracy() const { return m_VerticalAccuracy.is_set(); }
-  void UnsetVerticalAccuracy() { m_VerticalAccuracy.unset(); }
+  lmx::elmx_error SetVerticalAccuracy(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_VerticalAccuracy.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetVerticalAccuracy() const { return m_rare.get().m_VerticalAccuracy.get(); }
+  bool IssetVerticalAccuracy() const { return m_rare.get().m_VerticalAccuracy.is_set(); }
+  void UnsetVerticalAccuracy() { if (m_rare.is_there()) m_rare.get_or_create().m_VerticalAccuracy.unset(); }
 
   /// Name, without extension, of the binary file that holds the points in place of this element. Attribute
   /// "J", optional; 8 characters, pattern PNT([0-9]){5}.
-  lmx::elmx_error SetFilename(std::string const& value) { return m_Filename.set(value); }
-  std::string const& GetFilename() const { return m_Filename.get(); }
-  bool IssetFilename() const { return m_Filename.is_set(); }
-  void UnsetFilename() { m_Filename.unset(); }
+  lmx::elmx_error SetFilename(std::string const& value) { return m_rare.get_or_create().m_Filename.set(value); }
+  std::string const& GetFilename() const { return m_rare.get().m_Filename.get(); }
+  bool IssetFilename() const { return m_rare.get().m_Filename.is_set(); }
+  void UnsetFilename() { if (m_rare.is_there()) m_rare.get_or_create().m_Filename.unset(); }
 
   /// Length of the point file in bytes. Attribute "K", optional; 0 to 4294967294.
-  lmx::elmx_error SetFileLength(unsigned int const& value) { return m_FileLength.set(value); }
-  unsigned int const& GetFileLength() const { return m_FileLength.get(); }
-  bool IssetFileLength() const { return m_FileLength.is_set(); }
-  void UnsetFileLength() { m_FileLength.unset(); }
+  lmx::elmx_error SetFileLength(unsigned int const& value) { return m_rare.get_or_create().m_FileLength.set(value); }
+  unsigned int const& GetFileLength() const { return m_rare.get().m_FileLength.get(); }
+  bool IssetFileLength() const { return m_rare.get().m_FileLength.is_set(); }
+  void UnsetFileLength() { if (m_rare.is_there()) m_rare.get_or_create().m_FileLength.unset(); }
 
   /// True when everything required is there; otherwise what is missing is recorded (see `c_check_tracker`).
   bool IsOccursOk(lmx::c_check_tracker* tracker = nullptr) const;
@@ -849,6 +858,8 @@ class ISOXML_API Point {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -859,16 +870,19 @@ class ISOXML_API Point {
 
  private:
   lmx::ct_simple_pod_single<std::string> m_Type;
-  lmx::ct_simple_pod_optional<std::string> m_Designator;
   lmx::ct_simple_pod_single<velmo::lmx::high_precision_c_decimal> m_North;
   lmx::ct_simple_pod_single<velmo::lmx::high_precision_c_decimal> m_East;
-  lmx::ct_simple_pod_optional<int> m_Altitude;
-  lmx::ct_simple_pod_optional<unsigned char> m_Colour;
-  lmx::ct_simple_pod_optional<std::string> m_Id;
-  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_HorizontalAccuracy;
-  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_VerticalAccuracy;
-  lmx::ct_simple_pod_optional<std::string> m_Filename;
-  lmx::ct_simple_pod_optional<unsigned int> m_FileLength;
+  struct rare_fields {
+    lmx::ct_simple_pod_optional<std::string> m_Designator;
+    lmx::ct_simple_pod_optional<int> m_Altitude;
+    lmx::ct_simple_pod_optional<unsigned char> m_Colour;
+    lmx::ct_simple_pod_optional<std::string> m_Id;
+    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_HorizontalAccuracy;
+    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_VerticalAccuracy;
+    lmx::ct_simple_pod_optional<std::string> m_Filename;
+    lmx::ct_simple_pod_optional<unsigned int> m_FileLength;
+  };
+  lmx::ct_rare<rare_fields> m_rare;
 };
 
 /// A stretch of the children of `GuidanceGroup`: one unbroken run of like siblings, or one child, as `chosen`
@@ -1003,6 +1017,8 @@ class ISOXML_API GuidanceGroup {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1245,6 +1261,8 @@ class ISOXML_API GuidancePattern {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1393,6 +1411,8 @@ class ISOXML_API GuidanceAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1529,6 +1549,8 @@ class ISOXML_API GuidanceShift {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1607,6 +1629,8 @@ class ISOXML_API BaseStation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);

@@ -82,6 +82,24 @@ bool Grower::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return false;
 }
+bool Grower::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CTR_36, attribute);
+    case 'B': return binding::accept_attribute(reader, m_LastName, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_FirstName, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Street, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_POBox, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_PostalCode, spec_text_10, attribute);
+    case 'G': return binding::accept_attribute(reader, m_City, spec_text_32, attribute);
+    case 'H': return binding::accept_attribute(reader, m_State, spec_text_32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_Country, spec_text_32, attribute);
+    case 'J': return binding::accept_attribute(reader, m_Phone, spec_text_20, attribute);
+    case 'K': return binding::accept_attribute(reader, m_Mobile, spec_text_20, attribute);
+    case 'L': return binding::accept_attribute(reader, m_Fax, spec_text_20, attribute);
+    case 'M': return binding::accept_attribute(reader, m_Email, spec_text_64, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Grower::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CTR", __LINE__, m_Id.is_set() && m_LastName.is_set());
 }
@@ -164,6 +182,20 @@ bool Farm::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
+bool Farm::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_FRM_58, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Street, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_POBox, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_PostalCode, spec_text_10, attribute);
+    case 'F': return binding::accept_attribute(reader, m_City, spec_text_32, attribute);
+    case 'G': return binding::accept_attribute(reader, m_State, spec_text_32, attribute);
+    case 'H': return binding::accept_attribute(reader, m_Country, spec_text_32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_GrowerIdRef, spec_id_CTR_59, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Farm::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "FRM", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -233,6 +265,24 @@ bool Worker::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error
     case attr_Mobile: return read_attribute(reader, m_Mobile, spec_text_20, __LINE__, error);
     case attr_LicenseNumber: return read_attribute(reader, m_LicenseNumber, spec_text_32, __LINE__, error);
     case attr_Email: return read_attribute(reader, m_Email, spec_text_64, __LINE__, error);
+  }
+  return false;
+}
+bool Worker::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_WKR_106, attribute);
+    case 'B': return binding::accept_attribute(reader, m_LastName, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_FirstName, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Street, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_POBox, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_PostalCode, spec_text_10, attribute);
+    case 'G': return binding::accept_attribute(reader, m_City, spec_text_32, attribute);
+    case 'H': return binding::accept_attribute(reader, m_State, spec_text_32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_Country, spec_text_32, attribute);
+    case 'J': return binding::accept_attribute(reader, m_Phone, spec_text_20, attribute);
+    case 'K': return binding::accept_attribute(reader, m_Mobile, spec_text_20, attribute);
+    case 'L': return binding::accept_attribute(reader, m_LicenseNumber, spec_text_32, attribute);
+    case 'M': return binding::accept_attribute(reader, m_Email, spec_text_64, attribute);
   }
   return false;
 }
@@ -361,6 +411,21 @@ bool Product::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return false;
 }
+bool Product::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_PDT_87, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_ProductGroupIdRef, spec_id_PGP_88, attribute);
+    case 'D': return binding::accept_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_89, attribute);
+    case 'E': return binding::accept_attribute(reader, m_QuantityDDI, spec_bytes_2, attribute);
+    case 'F': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_3, attribute);
+    case 'G': return binding::accept_attribute(reader, m_MixtureRecipeQuantity, spec_range_0_to_2147483647_uint32, attribute);
+    case 'H': return binding::accept_attribute(reader, m_DensityMassPerVolume, spec_range_0_to_2147483647_uint32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_DensityMassPerCount, spec_range_0_to_2147483647_uint32, attribute);
+    case 'J': return binding::accept_attribute(reader, m_DensityVolumePerCount, spec_range_0_to_2147483647_uint32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Product::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PDT", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -427,6 +492,14 @@ bool ProductGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
+bool ProductGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_PGP_95, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2, attribute);
+  }
+  return false;
+}
 lmx::elmx_error ProductGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PGP", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -478,6 +551,13 @@ bool ProductRelation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
     case attr_ProductIdRef: return read_attribute(reader, m_ProductIdRef, spec_id_PDT_96, __LINE__, error);
     case attr_QuantityValue: return read_attribute(reader, m_QuantityValue, spec_range_0_to_2147483647_uint32, __LINE__, error);
     case attr_P917Vpn: return read_attribute(reader, m_P917Vpn, spec_id_VPN_97, __LINE__, error);
+  }
+  return false;
+}
+bool ProductRelation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_96, attribute);
+    case 'B': return binding::accept_attribute(reader, m_QuantityValue, spec_range_0_to_2147483647_uint32, attribute);
   }
   return false;
 }
@@ -536,6 +616,17 @@ bool ValuePresentation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
     case attr_NumberOfDecimals: return read_attribute(reader, m_NumberOfDecimals, spec_range_0_to_7_uint8, __LINE__, error);
     case attr_UnitDesignator: return read_attribute(reader, m_UnitDesignator, spec_text_32, __LINE__, error);
     case attr_ColourLegendIdRef: return read_attribute(reader, m_ColourLegendIdRef, spec_id_CLD_105, __LINE__, error);
+  }
+  return false;
+}
+bool ValuePresentation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_VPN_104, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Offset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Scale, spec_scale_factor, attribute);
+    case 'D': return binding::accept_attribute(reader, m_NumberOfDecimals, spec_range_0_to_7_uint8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_UnitDesignator, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_ColourLegendIdRef, spec_id_CLD_105, attribute);
   }
   return false;
 }
@@ -644,6 +735,14 @@ bool CropType::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
+bool CropType::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CTP_31, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_ProductGroupIdRef, spec_id_PGP_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error CropType::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CTP", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -705,6 +804,14 @@ bool CropVariety::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* 
     case attr_Id: return read_attribute(reader, m_Id, spec_id_CVT_33, __LINE__, error);
     case attr_Designator: return read_attribute(reader, m_Designator, spec_text_32, __LINE__, error);
     case attr_ProductIdRef: return read_attribute(reader, m_ProductIdRef, spec_id_PDT_34, __LINE__, error);
+  }
+  return false;
+}
+bool CropVariety::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CVT_33, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_34, attribute);
   }
   return false;
 }
@@ -809,6 +916,13 @@ bool CulturalPractice::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   }
   return false;
 }
+bool CulturalPractice::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CPC_35, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error CulturalPractice::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CPC", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -871,6 +985,13 @@ bool OperationTechnique::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_
   }
   return false;
 }
+bool OperationTechnique::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_OTQ_70, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error OperationTechnique::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "OTQ", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -916,6 +1037,12 @@ bool OperationTechniqueReference::unmarshal_attributes(lmx::xmlReader& reader, l
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
   switch (reader.m_event) {
     case attr_OperationTechniqueIdRef: return read_attribute(reader, m_OperationTechniqueIdRef, spec_id_OTQ_71, __LINE__, error);
+  }
+  return false;
+}
+bool OperationTechniqueReference::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_OperationTechniqueIdRef, spec_id_OTQ_71, attribute);
   }
   return false;
 }
@@ -1023,6 +1150,15 @@ bool CodedComment::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
+bool CodedComment::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CCT_17, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Scope, spec_one_of_1_to_3, attribute);
+    case 'D': return binding::accept_attribute(reader, m_CodedCommentGroupIdRef, spec_id_CCG_18, attribute);
+  }
+  return false;
+}
 lmx::elmx_error CodedComment::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CCT", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_Scope.is_set());
 }
@@ -1088,6 +1224,13 @@ bool CoddedCommentGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_
   }
   return false;
 }
+bool CoddedCommentGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CCG_19, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error CoddedCommentGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CCG", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
@@ -1135,6 +1278,13 @@ bool CodedCommentListValue::unmarshal_attributes(lmx::xmlReader& reader, lmx::el
   switch (reader.m_event) {
     case attr_Id: return read_attribute(reader, m_Id, spec_id_CCL_20, __LINE__, error);
     case attr_Designator: return read_attribute(reader, m_Designator, spec_text_32, __LINE__, error);
+  }
+  return false;
+}
+bool CodedCommentListValue::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CCL_20, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
   }
   return false;
 }
@@ -1239,6 +1389,13 @@ bool ColourLegend::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
+bool ColourLegend::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CLD_21, attribute);
+    case 'B': return binding::accept_attribute(reader, m_DefaultColour, spec_range_0_to_254_uint8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error ColourLegend::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CLD", __LINE__, m_Id.is_set());
 }
@@ -1300,6 +1457,14 @@ bool ColourRange::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* 
     case attr_MinimumValue: return read_attribute(reader, m_MinimumValue, spec_range_minus_2147483647_to_2147483647_int32, __LINE__, error);
     case attr_MaximumValue: return read_attribute(reader, m_MaximumValue, spec_range_minus_2147483647_to_2147483647_int32, __LINE__, error);
     case attr_Colour: return read_attribute(reader, m_Colour, spec_range_0_to_254_uint8, __LINE__, error);
+  }
+  return false;
+}
+bool ColourRange::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_MinimumValue, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'B': return binding::accept_attribute(reader, m_MaximumValue, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
   }
   return false;
 }

@@ -158,6 +158,8 @@ class ISOXML_API Grower {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -332,6 +334,8 @@ class ISOXML_API Farm {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -470,6 +474,8 @@ class ISOXML_API Worker {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -697,6 +703,8 @@ class ISOXML_API Product {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -776,6 +784,8 @@ class ISOXML_API ProductGroup {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -841,6 +851,8 @@ class ISOXML_API ProductRelation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -926,6 +938,8 @@ class ISOXML_API ValuePresentation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1067,6 +1081,8 @@ class ISOXML_API CropType {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1132,6 +1148,8 @@ class ISOXML_API CropVariety {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1264,6 +1282,8 @@ class ISOXML_API CulturalPractice {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1321,6 +1341,8 @@ class ISOXML_API OperationTechnique {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1371,6 +1393,8 @@ class ISOXML_API OperationTechniqueReference {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1519,6 +1543,8 @@ class ISOXML_API CodedComment {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1578,6 +1604,8 @@ class ISOXML_API CoddedCommentGroup {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1635,6 +1663,8 @@ class ISOXML_API CodedCommentListValue {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1766,6 +1796,8 @@ class ISOXML_API ColourLegend {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1829,6 +1861,8 @@ class ISOXML_API ColourRange {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);

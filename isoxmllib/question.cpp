@@ -43,6 +43,7 @@ lmx::elmx_error P917Questions::unmarshal(lmx::xmlReader& reader, std::string con
   return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_complex_content, known_elements, true, __LINE__});
 }
 bool P917Questions::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { return false; }
+bool P917Questions::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error P917Questions::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool P917Questions::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_list(reader, mP917Question, elem_P917Question, {elem_event_map, "P917_Questions", __LINE__}, error); }
 bool P917Questions::IsOccursOk(lmx::c_check_tracker*) const {
@@ -110,6 +111,7 @@ bool P917Question::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
+bool P917Question::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error P917Question::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "P917_Question", __LINE__, m_Uuid.is_set() && m_ReplyType.is_set());
 }
@@ -157,6 +159,7 @@ lmx::elmx_error P917Comment::unmarshal(lmx::xmlReader& reader, std::string const
   return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_simple_content, nullptr, false, __LINE__});
 }
 bool P917Comment::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { return false; }
+bool P917Comment::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error P917Comment::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool P917Comment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_text(reader, m_P917Comment, spec_any_text, __LINE__, error); }
 bool P917Comment::IsOccursOk(lmx::c_check_tracker* tracker) const {

@@ -59,6 +59,8 @@ class ISOXML_API P917Questions {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -144,6 +146,8 @@ class ISOXML_API P917Question {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -198,6 +202,8 @@ class ISOXML_API P917Comment {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);

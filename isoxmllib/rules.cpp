@@ -1,6 +1,19 @@
 #include "isoxmllib/rules.h"
 
+#include "GenLibrarySupportFiles/lmxinternals/characters.h"
+#include "GenLibrarySupportFiles/lmxinternals/words.h"
+
 namespace binding {
+
+namespace {
+
+std::size_t size_of(lmx::plain_text_view text) { return static_cast<std::size_t>(text.end - text.begin); }
+
+bool is_length_ok(lmx::plain_text_view text, text_rule const& rule) {
+  return size_of(text) >= rule.min_length && size_of(text) <= rule.max_length;
+}
+
+}  // namespace
 
 lmx::elmx_error check_text(lmx::c_xml_reader& reader, std::string const& text, text_rule const& rule) {
   lmx::elmx_error error = lmx::ELMX_OK;
@@ -44,6 +57,78 @@ lmx::elmx_error check_size(lmx::c_xml_reader& reader, std::size_t size, std::siz
   }
   if (size > maximum) return report_value(reader, lmx::ELMX_LENGTH_TOO_LONG);
   return lmx::ELMX_OK;
+}
+
+bool accept_text(std::string& value, lmx::plain_text_view text, text_rule const& rule) {
+  if (!is_length_ok(text, rule)) return false;
+  value.assign(text.begin, text.end);
+  return true;
+}
+
+bool accept_token(std::string& value, lmx::plain_text_view text, text_rule const& rule) {
+  for (char const* p = text.begin; p != text.end; ++p) {
+    if (lmx::is_space(*p)) return false;
+  }
+  return accept_text(value, text, rule);
+}
+
+bool accept_match(std::string& value, lmx::plain_text_view text, text_rule const& rule,
+                  text_matcher const& matcher) {
+  if (!is_length_ok(text, rule) || !matcher.matches(text)) return false;
+  value.assign(text.begin, text.end);
+  return true;
+}
+
+bool scan_integer(lmx::plain_text_view text, std::int64_t* value) {
+  constexpr std::ptrdiff_t most_digits = 10;  // more than any range of the format
+  char const* p = text.begin;
+  bool const is_negative = p != text.end && *p == '-';
+  if (is_negative) ++p;
+  if (p == text.end || text.end - p > most_digits) return false;
+  if (*p == '0' && (is_negative || text.end - p > 1)) return false;
+  std::int64_t number = 0;
+  for (; p != text.end; ++p) {
+    if (!lmx::is_digit(*p)) return false;
+    number = number * 10 + (*p - '0');
+  }
+  *value = is_negative ? -number : number;
+  return true;
+}
+
+bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range) {
+  constexpr std::ptrdiff_t most_whole_digits = 9;
+  char const* p = text.begin;
+  bool const is_negative = p != text.end && *p == '-';
+  if (is_negative) ++p;
+  char const* const whole_begin = p;
+  unsigned whole = 0;
+  char const* const whole_end =
+      text.end - whole_begin > most_whole_digits ? whole_begin + most_whole_digits : text.end;
+  for (; p != whole_end; ++p) {
+    unsigned const digit = static_cast<unsigned char>(*p) - unsigned{'0'};
+    if (digit > 9) break;
+    whole = whole * 10 + digit;
+  }
+  if (p == whole_begin || (*whole_begin == '0' && p - whole_begin > 1)) return false;
+  if (is_negative ? whole >= range.negative_below : whole < range.least || whole >= range.below) return false;
+  if (p != text.end) {
+    if (*p != '.' || ++p == text.end) return false;
+    while (text.end - p >= 8 && lmx::words::are_digits(lmx::words::load(p))) p += 8;
+    while (p != text.end && lmx::is_digit(*p)) ++p;
+    if (p != text.end) return false;
+  }
+  value.set_canonical(text.begin, text.end);
+  return true;
+}
+
+bool accept_bytes(lmx::c_binary& value, lmx::plain_text_view text, std::size_t minimum, std::size_t maximum) {
+  std::size_t const size = size_of(text) / 2;
+  if (size_of(text) % 2 != 0 || size < minimum || size > maximum) return false;
+  for (char const* p = text.begin; p != text.end; ++p) {
+    if (!lmx::is_hex_digit(*p)) return false;
+  }
+  value.from_hex(std::string(text.begin, text.end));
+  return true;
 }
 
 }  // namespace binding

@@ -6,8 +6,10 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_big_int.h"
@@ -57,7 +59,7 @@ lmx::elmx_error check_range(lmx::c_xml_reader& reader, T const& value, T const& 
 
 /// One text of an enumeration and its code.
 struct enumerated {
-  char const* text;
+  std::string_view text;
   elmx_enums code;
 };
 
@@ -66,7 +68,7 @@ using enumeration = std::array<enumerated, N>;
 
 /// The code of `text`; 0 when it is none of the list.
 template <std::size_t N>
-elmx_enums enum_code(enumeration<N> const& list, std::string const& text) {
+elmx_enums enum_code(enumeration<N> const& list, std::string_view text) {
   for (enumerated const& row : list) {
     if (text == row.text) return row.code;
   }
@@ -78,7 +80,7 @@ template <std::size_t N, class Field>
 bool set_enum(enumeration<N> const& list, elmx_enums code, Field& field) {
   for (enumerated const& row : list) {
     if (row.code != code) continue;
-    field.set(row.text);
+    field.set(std::string(row.text));
     return true;
   }
   return false;
@@ -91,5 +93,76 @@ lmx::elmx_error check_one_of(lmx::c_xml_reader& reader, std::string const& value
   return enum_code(list, value) != elmx_enum_none ? lmx::ELMX_OK
                                                   : report_value(reader, lmx::ELMX_VALUE_NOT_ENUMERATED);
 }
+
+// ---- The short cut for plain texts ----
+//
+// A plain text is ASCII, without line ends and references. Each function checks such a text and stores its
+// value in one pass. False, with nothing changed, not only for what the rule refuses but for whatever is
+// unusual: the checks above then decide. So these may only ever say yes where those would.
+
+/// A pattern as a table over printable ASCII. State 0 is the dead end, 1 the start.
+struct text_matcher {
+  unsigned char const* classes;  ///< The class of each byte up to 127.
+  unsigned char const* steps;    ///< `class_count` next states for each state.
+  bool const* accepting;         ///< For each state, whether the text may end there.
+  unsigned class_count;
+
+  bool matches(lmx::plain_text_view text) const {
+    unsigned state = 1;
+    for (char const* p = text.begin; p != text.end; ++p)
+      state = steps[state * class_count + classes[static_cast<unsigned char>(*p)]];
+    return accepting[state];
+  }
+};
+
+/// Stores a text that is mostly one or two characters, which cost less one by one than in a call.
+inline void store(std::string& value, lmx::plain_text_view text) {
+  std::size_t const size = static_cast<std::size_t>(text.end - text.begin);
+  if (size == 1 || size == 2) {
+    value.clear();
+    value.push_back(text.begin[0]);
+    if (size == 2) value.push_back(text.begin[1]);
+  } else {
+    value.assign(text.begin, size);
+  }
+}
+
+/// A text whose blanks are kept.
+bool accept_text(std::string& value, lmx::plain_text_view text, text_rule const& rule);
+/// A text that has no blanks to collapse.
+bool accept_token(std::string& value, lmx::plain_text_view text, text_rule const& rule);
+/// A text that matches a pattern which admits no blanks.
+bool accept_match(std::string& value, lmx::plain_text_view text, text_rule const& rule,
+                  text_matcher const& matcher);
+
+template <std::size_t N>
+bool accept_one_of(std::string& value, lmx::plain_text_view text, enumeration<N> const& list) {
+  std::string_view const wanted(text.begin, static_cast<std::size_t>(text.end - text.begin));
+  if (enum_code(list, wanted) == elmx_enum_none) return false;
+  store(value, text);
+  return true;
+}
+
+/// An integer without "+" and leading zeros; `*value` is it.
+bool scan_integer(lmx::plain_text_view text, std::int64_t* value);
+
+template <class T>
+bool accept_integer(T& value, lmx::plain_text_view text, std::int64_t minimum, std::int64_t maximum) {
+  std::int64_t number = 0;
+  if (!scan_integer(text, &number) || number < minimum || number > maximum) return false;
+  value = static_cast<T>(number);
+  return true;
+}
+
+/// The whole parts of the numbers that are in a range whatever fraction they have.
+struct whole_parts {
+  unsigned least;           ///< Of numbers without a sign.
+  unsigned below;           ///< The same, past the highest.
+  unsigned negative_below;  ///< Of numbers with a "-", past the highest.
+};
+
+bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range);
+
+bool accept_bytes(lmx::c_binary& value, lmx::plain_text_view text, std::size_t minimum, std::size_t maximum);
 
 }  // namespace binding

@@ -339,6 +339,21 @@ bool Task::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
+bool Task::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_TSK_98, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_CustomerIdRef, spec_id_CTR_99, attribute);
+    case 'D': return binding::accept_attribute(reader, m_FarmIdRef, spec_id_FRM_100, attribute);
+    case 'E': return binding::accept_attribute(reader, m_FieldIdRef, spec_id_PFD_101, attribute);
+    case 'F': return binding::accept_attribute(reader, m_ResponsibleWorkerIdRef, spec_id_WKR_102, attribute);
+    case 'G': return binding::accept_attribute(reader, m_Status, spec_one_of_1_to_6, attribute);
+    case 'H': return binding::accept_attribute(reader, m_DefaultTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+    case 'I': return binding::accept_attribute(reader, m_PositionLostTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+    case 'J': return binding::accept_attribute(reader, m_OutOfFieldTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Task::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TSK", __LINE__, m_Id.is_set() && m_Status.is_set());
 }
@@ -475,6 +490,14 @@ bool TreatmentZone::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
+bool TreatmentZone::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Code, spec_range_0_to_254_uint8, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error TreatmentZone::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TZN", __LINE__, m_Code.is_set());
 }
@@ -596,14 +619,26 @@ bool ProcessDataVariable::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx
     case attr_Value: return read_attribute(reader, m_Value, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
     case attr_ProductIdRef: return read_attribute(reader, m_ProductIdRef, spec_id_PDT_83, __LINE__, error);
     case attr_DeviceElementIdRef: return read_attribute(reader, m_DeviceElementIdRef, spec_id_DET_84, __LINE__, error);
-    case attr_ValuePresentationIdRef: return read_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_85, __LINE__, error);
-    case attr_ActualCulturalPracticeValue: return read_attribute(reader, m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
-    case attr_ElementTypeInstanceValue: return read_attribute(reader, m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
-    case attr_P917Rxmap: return read_attribute(reader, m_P917Rxmap, spec_attached_file_86, __LINE__, error);
-    case attr_P917Rxcolumn: return read_attribute(reader, m_P917Rxcolumn, spec_text_64, __LINE__, error);
-    case attr_P917Rxunit: return read_attribute(reader, m_P917Rxunit, spec_text_64, __LINE__, error);
-    case attr_P917Rxconvrate: return read_attribute(reader, m_P917Rxconvrate, spec_scale_factor, __LINE__, error);
-    case attr_P917Rxwoconvrate: return read_attribute(reader, m_P917Rxwoconvrate, spec_scale_factor, __LINE__, error);
+    case attr_ValuePresentationIdRef: return read_attribute(reader, m_rare.get_or_create().m_ValuePresentationIdRef, spec_id_VPN_85, __LINE__, error);
+    case attr_ActualCulturalPracticeValue: return read_attribute(reader, m_rare.get_or_create().m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
+    case attr_ElementTypeInstanceValue: return read_attribute(reader, m_rare.get_or_create().m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
+    case attr_P917Rxmap: return read_attribute(reader, m_rare.get_or_create().m_P917Rxmap, spec_attached_file_86, __LINE__, error);
+    case attr_P917Rxcolumn: return read_attribute(reader, m_rare.get_or_create().m_P917Rxcolumn, spec_text_64, __LINE__, error);
+    case attr_P917Rxunit: return read_attribute(reader, m_rare.get_or_create().m_P917Rxunit, spec_text_64, __LINE__, error);
+    case attr_P917Rxconvrate: return read_attribute(reader, m_rare.get_or_create().m_P917Rxconvrate, spec_scale_factor, __LINE__, error);
+    case attr_P917Rxwoconvrate: return read_attribute(reader, m_rare.get_or_create().m_P917Rxwoconvrate, spec_scale_factor, __LINE__, error);
+  }
+  return false;
+}
+bool ProcessDataVariable::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Value, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_83, attribute);
+    case 'D': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_84, attribute);
+    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_ValuePresentationIdRef, spec_id_VPN_85, attribute);
+    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'G': return binding::accept_attribute(reader, m_rare.get_or_create().m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
   }
   return false;
 }
@@ -682,6 +717,19 @@ bool Grid::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
     case attr_Filelength: return read_attribute(reader, m_Filelength, spec_range_0_to_4294967294_uint32, __LINE__, error);
     case attr_Type: return read_attribute(reader, m_Type, spec_one_of_1_2, __LINE__, error);
     case attr_TreatmentZoneCode: return read_attribute(reader, m_TreatmentZoneCode, spec_range_0_to_254_uint8, __LINE__, error);
+  }
+  return false;
+}
+bool Grid::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_MinimumNorthPosition, spec_degrees_latitude, attribute);
+    case 'B': return binding::accept_attribute(reader, m_MinimumEastPosition, spec_degrees_longitude, attribute);
+    case 'E': return binding::accept_attribute(reader, m_MaximumColumn, spec_range_0_to_4294967295_uint32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_MaximumRow, spec_range_0_to_4294967295_uint32, attribute);
+    case 'G': return binding::accept_attribute(reader, m_Filename, spec_file_GRD_62, attribute);
+    case 'H': return binding::accept_attribute(reader, m_Filelength, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2, attribute);
+    case 'J': return binding::accept_attribute(reader, m_TreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
   }
   return false;
 }
@@ -817,6 +865,13 @@ bool Time::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
+bool Time::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'C': return binding::accept_attribute(reader, m_Duration, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2_4_to_8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Time::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TIM", __LINE__, m_Start.is_set() && m_Type.is_set());
 }
@@ -887,11 +942,25 @@ bool Position::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
     case attr_East: return read_attribute(reader, m_East, spec_degrees_longitude, __LINE__, error);
     case attr_Altitude: return read_attribute(reader, m_Altitude, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
     case attr_Status: return read_attribute(reader, m_Status, spec_one_of_0_to_15, __LINE__, error);
-    case attr_PDOP: return read_attribute(reader, m_PDOP, spec_dilution, __LINE__, error);
-    case attr_HDOP: return read_attribute(reader, m_HDOP, spec_dilution, __LINE__, error);
+    case attr_PDOP: return read_attribute(reader, m_rare.get_or_create().m_PDOP, spec_dilution, __LINE__, error);
+    case attr_HDOP: return read_attribute(reader, m_rare.get_or_create().m_HDOP, spec_dilution, __LINE__, error);
     case attr_NumberOfSatelites: return read_attribute(reader, m_NumberOfSatelites, spec_range_0_to_254_uint8, __LINE__, error);
-    case attr_GpsUtcTime: return read_attribute(reader, m_GpsUtcTime, spec_range_0_to_4294967294_uint32, __LINE__, error);
-    case attr_PgsUtcDate: return read_attribute(reader, m_PgsUtcDate, spec_range_0_to_65534_uint16, __LINE__, error);
+    case attr_GpsUtcTime: return read_attribute(reader, m_rare.get_or_create().m_GpsUtcTime, spec_range_0_to_4294967294_uint32, __LINE__, error);
+    case attr_PgsUtcDate: return read_attribute(reader, m_rare.get_or_create().m_PgsUtcDate, spec_range_0_to_65534_uint16, __LINE__, error);
+  }
+  return false;
+}
+bool Position::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_North, spec_degrees_latitude, attribute);
+    case 'B': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Altitude, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Status, spec_one_of_0_to_15, attribute);
+    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_PDOP, spec_dilution, attribute);
+    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_HDOP, spec_dilution, attribute);
+    case 'G': return binding::accept_attribute(reader, m_NumberOfSatelites, spec_range_0_to_254_uint8, attribute);
+    case 'H': return binding::accept_attribute(reader, m_rare.get_or_create().m_GpsUtcTime, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_rare.get_or_create().m_PgsUtcDate, spec_range_0_to_65534_uint16, attribute);
   }
   return false;
 }
@@ -968,6 +1037,23 @@ bool DataLogTrigger::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_erro
   }
   return false;
 }
+bool DataLogTrigger::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Method, spec_range_1_to_31_uint8, attribute);
+    case 'C': return binding::accept_attribute(reader, m_DistanceInterval, spec_range_0_to_1000000_uint32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_TimeInterval, spec_range_0_to_60000_uint16, attribute);
+    case 'E': return binding::accept_attribute(reader, m_ThresholdMinimum, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_ThresholdMaximum, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'G': return binding::accept_attribute(reader, m_ThresholdChange, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'H': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_44, attribute);
+    case 'I': return binding::accept_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_45, attribute);
+    case 'J': return binding::accept_attribute(reader, m_PGN, spec_range_0_to_262143_uint32, attribute);
+    case 'K': return binding::accept_attribute(reader, m_PGNStartBit, spec_range_0_to_63_uint8, attribute);
+    case 'L': return binding::accept_attribute(reader, m_PGNStopBit, spec_range_0_to_63_uint8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error DataLogTrigger::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DLT", __LINE__, m_DDI.is_set() && m_Method.is_set());
 }
@@ -1020,9 +1106,20 @@ bool DataLogValue::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
     case attr_PrecessDataDDI: return read_attribute(reader, m_PrecessDataDDI, spec_bytes_2, __LINE__, error);
     case attr_PrecessDataValue: return read_attribute(reader, m_PrecessDataValue, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
     case attr_DeviceElementIdRef: return read_attribute(reader, m_DeviceElementIdRef, spec_id_DET_48, __LINE__, error);
-    case attr_PGN: return read_attribute(reader, m_PGN, spec_range_0_to_262143_uint32, __LINE__, error);
-    case attr_PGNStartBit: return read_attribute(reader, m_PGNStartBit, spec_range_0_to_63_uint8, __LINE__, error);
-    case attr_PGNStopBit: return read_attribute(reader, m_PGNStopBit, spec_range_0_to_63_uint8, __LINE__, error);
+    case attr_PGN: return read_attribute(reader, m_rare.get_or_create().m_PGN, spec_range_0_to_262143_uint32, __LINE__, error);
+    case attr_PGNStartBit: return read_attribute(reader, m_rare.get_or_create().m_PGNStartBit, spec_range_0_to_63_uint8, __LINE__, error);
+    case attr_PGNStopBit: return read_attribute(reader, m_rare.get_or_create().m_PGNStopBit, spec_range_0_to_63_uint8, __LINE__, error);
+  }
+  return false;
+}
+bool DataLogValue::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_PrecessDataDDI, spec_bytes_2, attribute);
+    case 'B': return binding::accept_attribute(reader, m_PrecessDataValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_48, attribute);
+    case 'D': return binding::accept_attribute(reader, m_rare.get_or_create().m_PGN, spec_range_0_to_262143_uint32, attribute);
+    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_PGNStartBit, spec_range_0_to_63_uint8, attribute);
+    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_PGNStopBit, spec_range_0_to_63_uint8, attribute);
   }
   return false;
 }
@@ -1076,6 +1173,14 @@ bool TimeLog::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* erro
     case attr_Filename: return read_attribute(reader, m_Filename, spec_file_TLG_103, __LINE__, error);
     case attr_Filelength: return read_attribute(reader, m_Filelength, spec_range_0_to_4294967294_uint32, __LINE__, error);
     case attr_Type: return read_attribute(reader, m_Type, spec_one_of_1, __LINE__, error);
+  }
+  return false;
+}
+bool TimeLog::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Filename, spec_file_TLG_103, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Filelength, spec_range_0_to_4294967294_uint32, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1, attribute);
   }
   return false;
 }
@@ -1186,6 +1291,13 @@ bool AllocationStamp::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
   }
   return false;
 }
+bool AllocationStamp::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'C': return binding::accept_attribute(reader, m_Duration, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Type, spec_one_of_1_4, attribute);
+  }
+  return false;
+}
 lmx::elmx_error AllocationStamp::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "ASP", __LINE__, m_Start.is_set() && m_Type.is_set());
 }
@@ -1287,6 +1399,14 @@ bool CommentAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
+bool CommentAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_CodedCommentIdRef, spec_id_CCT_22, attribute);
+    case 'B': return binding::accept_attribute(reader, m_CodedCommentListValueIdRef, spec_id_CCL_23, attribute);
+    case 'C': return binding::accept_attribute(reader, m_FreeCommentText, spec_text_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error CommentAllocation::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool CommentAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerCommentAllocation, {elem_event_map, "CAN", __LINE__}, error); }
 bool CommentAllocation::IsOccursOk(lmx::c_check_tracker*) const {
@@ -1383,6 +1503,14 @@ bool DeviceAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   }
   return false;
 }
+bool DeviceAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ClientNameValue, spec_bytes_8, attribute);
+    case 'B': return binding::accept_attribute(reader, m_ClientNameMask, spec_bytes_8, attribute);
+    case 'C': return binding::accept_attribute(reader, m_DeviceIdRef, spec_id_DVC_52, attribute);
+  }
+  return false;
+}
 lmx::elmx_error DeviceAllocation::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DAN", __LINE__, m_ClientNameValue.is_set());
 }
@@ -1474,6 +1602,12 @@ bool WorkerAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
   switch (reader.m_event) {
     case attr_WorkerIdRef: return read_attribute(reader, m_WorkerIdRef, spec_id_WKR_107, __LINE__, error);
+  }
+  return false;
+}
+bool WorkerAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_WorkerIdRef, spec_id_WKR_107, attribute);
   }
   return false;
 }
@@ -1580,6 +1714,18 @@ bool ProductAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
     case attr_DeviceElementIdRef: return read_attribute(reader, m_DeviceElementIdRef, spec_id_DET_92, __LINE__, error);
     case attr_ValuePresentationIdRef: return read_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_93, __LINE__, error);
     case attr_ProductSubTypeIdRef: return read_attribute(reader, m_ProductSubTypeIdRef, spec_id_PDT_94, __LINE__, error);
+  }
+  return false;
+}
+bool ProductAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_91, attribute);
+    case 'B': return binding::accept_attribute(reader, m_QuantityDDI, spec_bytes_2, attribute);
+    case 'C': return binding::accept_attribute(reader, m_QuantityValue, spec_range_0_to_2147483647_uint32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_TransferMode, spec_one_of_1_to_3, attribute);
+    case 'E': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_92, attribute);
+    case 'F': return binding::accept_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_93, attribute);
+    case 'G': return binding::accept_attribute(reader, m_ProductSubTypeIdRef, spec_id_PDT_94, attribute);
   }
   return false;
 }
@@ -1691,6 +1837,16 @@ bool ControlAssignment::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
+bool ControlAssignment::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_SourceClientName, spec_bytes_8, attribute);
+    case 'B': return binding::accept_attribute(reader, m_UserClientName, spec_bytes_8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_SourceDeviceElementNumber, spec_range_0_to_4095_uint16, attribute);
+    case 'F': return binding::accept_attribute(reader, m_UserDevieceElementNumber, spec_range_0_to_4095_uint16, attribute);
+    case 'G': return binding::accept_attribute(reader, m_ProcessDataDDI, spec_bytes_2, attribute);
+  }
+  return false;
+}
 lmx::elmx_error ControlAssignment::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CAT", __LINE__, m_SourceClientName.is_set() && m_UserClientName.is_set() && m_SourceDeviceStructureLabel.is_set() && m_UserDeviceStructureLabel.is_set() && m_SourceDeviceElementNumber.is_set() && m_UserDevieceElementNumber.is_set() && m_ProcessDataDDI.is_set());
 }
@@ -1756,6 +1912,15 @@ bool Connection::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return false;
 }
+bool Connection::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_DeviceIdRef_0, spec_id_DVC_24, attribute);
+    case 'B': return binding::accept_attribute(reader, m_DeviceElementIdRef_0, spec_id_DET_25, attribute);
+    case 'C': return binding::accept_attribute(reader, m_DeviceIdRef_1, spec_id_DVC_26, attribute);
+    case 'D': return binding::accept_attribute(reader, m_DeviceElementIdRef_1, spec_id_DET_27, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Connection::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CNN", __LINE__, m_DeviceIdRef_0.is_set() && m_DeviceElementIdRef_0.is_set() && m_DeviceIdRef_1.is_set() && m_DeviceElementIdRef_1.is_set());
 }
@@ -1805,6 +1970,13 @@ bool OperTechPractice::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   switch (reader.m_event) {
     case attr_CulturalPracticeIdRef: return read_attribute(reader, m_CulturalPracticeIdRef, spec_id_CPC_72, __LINE__, error);
     case attr_OperationTechniqueIdRef: return read_attribute(reader, m_OperationTechniqueIdRef, spec_id_OTQ_73, __LINE__, error);
+  }
+  return false;
+}
+bool OperTechPractice::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_CulturalPracticeIdRef, spec_id_CPC_72, attribute);
+    case 'B': return binding::accept_attribute(reader, m_OperationTechniqueIdRef, spec_id_OTQ_73, attribute);
   }
   return false;
 }

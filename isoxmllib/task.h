@@ -403,6 +403,8 @@ class ISOXML_API Task {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -567,6 +569,8 @@ class ISOXML_API TreatmentZone {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -692,59 +696,59 @@ class ISOXML_API ProcessDataVariable {
 
   /// Value presentation that scales the value for display. Attribute "E", optional; 4 to 14 characters,
   /// pattern (VPN|VPN-)([0-9])+.
-  lmx::elmx_error SetValuePresentationIdRef(std::string const& value) { return m_ValuePresentationIdRef.set(value); }
-  std::string const& GetValuePresentationIdRef() const { return m_ValuePresentationIdRef.get(); }
-  bool IssetValuePresentationIdRef() const { return m_ValuePresentationIdRef.is_set(); }
-  void UnsetValuePresentationIdRef() { m_ValuePresentationIdRef.unset(); }
+  lmx::elmx_error SetValuePresentationIdRef(std::string const& value) { return m_rare.get_or_create().m_ValuePresentationIdRef.set(value); }
+  std::string const& GetValuePresentationIdRef() const { return m_rare.get().m_ValuePresentationIdRef.get(); }
+  bool IssetValuePresentationIdRef() const { return m_rare.get().m_ValuePresentationIdRef.is_set(); }
+  void UnsetValuePresentationIdRef() { if (m_rare.is_there()) m_rare.get_or_create().m_ValuePresentationIdRef.unset(); }
 
   /// Value of the Actual Cultural Practice DDI that the variable is meant for. Attribute "F", optional;
   /// -2147483648 to 2147483647.
-  lmx::elmx_error SetActualCulturalPracticeValue(int const& value) { return m_ActualCulturalPracticeValue.set(value); }
-  int const& GetActualCulturalPracticeValue() const { return m_ActualCulturalPracticeValue.get(); }
-  bool IssetActualCulturalPracticeValue() const { return m_ActualCulturalPracticeValue.is_set(); }
-  void UnsetActualCulturalPracticeValue() { m_ActualCulturalPracticeValue.unset(); }
+  lmx::elmx_error SetActualCulturalPracticeValue(int const& value) { return m_rare.get_or_create().m_ActualCulturalPracticeValue.set(value); }
+  int const& GetActualCulturalPracticeValue() const { return m_rare.get().m_ActualCulturalPracticeValue.get(); }
+  bool IssetActualCulturalPracticeValue() const { return m_rare.get().m_ActualCulturalPracticeValue.is_set(); }
+  void UnsetActualCulturalPracticeValue() { if (m_rare.is_there()) m_rare.get_or_create().m_ActualCulturalPracticeValue.unset(); }
 
   /// Value of the Element Type Instance DDI that the variable is meant for. Attribute "G", optional;
   /// -2147483648 to 2147483647.
-  lmx::elmx_error SetElementTypeInstanceValue(int const& value) { return m_ElementTypeInstanceValue.set(value); }
-  int const& GetElementTypeInstanceValue() const { return m_ElementTypeInstanceValue.get(); }
-  bool IssetElementTypeInstanceValue() const { return m_ElementTypeInstanceValue.is_set(); }
-  void UnsetElementTypeInstanceValue() { m_ElementTypeInstanceValue.unset(); }
+  lmx::elmx_error SetElementTypeInstanceValue(int const& value) { return m_rare.get_or_create().m_ElementTypeInstanceValue.set(value); }
+  int const& GetElementTypeInstanceValue() const { return m_rare.get().m_ElementTypeInstanceValue.get(); }
+  bool IssetElementTypeInstanceValue() const { return m_rare.get().m_ElementTypeInstanceValue.is_set(); }
+  void UnsetElementTypeInstanceValue() { if (m_rare.is_there()) m_rare.get_or_create().m_ElementTypeInstanceValue.unset(); }
 
   /// Extension: name of the file that holds the prescription map. Attribute "P917_rxmap", optional; 12
   /// characters, pattern ([0-9]|[A-Z]){8}.([0-9]|[A-Z]){3}.
-  lmx::elmx_error SetP917Rxmap(std::string const& value) { return m_P917Rxmap.set(value); }
-  std::string const& GetP917Rxmap() const { return m_P917Rxmap.get(); }
-  bool IssetP917Rxmap() const { return m_P917Rxmap.is_set(); }
-  void UnsetP917Rxmap() { m_P917Rxmap.unset(); }
+  lmx::elmx_error SetP917Rxmap(std::string const& value) { return m_rare.get_or_create().m_P917Rxmap.set(value); }
+  std::string const& GetP917Rxmap() const { return m_rare.get().m_P917Rxmap.get(); }
+  bool IssetP917Rxmap() const { return m_rare.get().m_P917Rxmap.is_set(); }
+  void UnsetP917Rxmap() { if (m_rare.is_there()) m_rare.get_or_create().m_P917Rxmap.unset(); }
 
   /// Extension: column of the prescription source that supplies the value. Attribute "P917_rxcolumn",
   /// optional; at most 64 characters.
-  lmx::elmx_error SetP917Rxcolumn(std::string const& value) { return m_P917Rxcolumn.set(value); }
-  std::string const& GetP917Rxcolumn() const { return m_P917Rxcolumn.get(); }
-  bool IssetP917Rxcolumn() const { return m_P917Rxcolumn.is_set(); }
-  void UnsetP917Rxcolumn() { m_P917Rxcolumn.unset(); }
+  lmx::elmx_error SetP917Rxcolumn(std::string const& value) { return m_rare.get_or_create().m_P917Rxcolumn.set(value); }
+  std::string const& GetP917Rxcolumn() const { return m_rare.get().m_P917Rxcolumn.get(); }
+  bool IssetP917Rxcolumn() const { return m_rare.get().m_P917Rxcolumn.is_set(); }
+  void UnsetP917Rxcolumn() { if (m_rare.is_there()) m_rare.get_or_create().m_P917Rxcolumn.unset(); }
 
   /// Extension: unit of the prescription column, as text. Attribute "P917_rxunit", optional; at most 64
   /// characters.
-  lmx::elmx_error SetP917Rxunit(std::string const& value) { return m_P917Rxunit.set(value); }
-  std::string const& GetP917Rxunit() const { return m_P917Rxunit.get(); }
-  bool IssetP917Rxunit() const { return m_P917Rxunit.is_set(); }
-  void UnsetP917Rxunit() { m_P917Rxunit.unset(); }
+  lmx::elmx_error SetP917Rxunit(std::string const& value) { return m_rare.get_or_create().m_P917Rxunit.set(value); }
+  std::string const& GetP917Rxunit() const { return m_rare.get().m_P917Rxunit.get(); }
+  bool IssetP917Rxunit() const { return m_rare.get().m_P917Rxunit.is_set(); }
+  void UnsetP917Rxunit() { if (m_rare.is_there()) m_rare.get_or_create().m_P917Rxunit.unset(); }
 
   /// Extension: conversion rate of the prescription. Attribute "P917_rxconvrate", optional; 0.000000001 to
   /// 100000000.0.
-  lmx::elmx_error SetP917Rxconvrate(velmo::lmx::high_precision_c_decimal const& value) { return m_P917Rxconvrate.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetP917Rxconvrate() const { return m_P917Rxconvrate.get(); }
-  bool IssetP917Rxconvrate() const { return m_P917Rxconvrate.is_set(); }
-  void UnsetP917Rxconvrate() { m_P917Rxconvrate.unset(); }
+  lmx::elmx_error SetP917Rxconvrate(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_P917Rxconvrate.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetP917Rxconvrate() const { return m_rare.get().m_P917Rxconvrate.get(); }
+  bool IssetP917Rxconvrate() const { return m_rare.get().m_P917Rxconvrate.is_set(); }
+  void UnsetP917Rxconvrate() { if (m_rare.is_there()) m_rare.get_or_create().m_P917Rxconvrate.unset(); }
 
   /// Extension: rate of the prescription without conversion. Attribute "P917_rxwoconvrate", optional;
   /// 0.000000001 to 100000000.0.
-  lmx::elmx_error SetP917Rxwoconvrate(velmo::lmx::high_precision_c_decimal const& value) { return m_P917Rxwoconvrate.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetP917Rxwoconvrate() const { return m_P917Rxwoconvrate.get(); }
-  bool IssetP917Rxwoconvrate() const { return m_P917Rxwoconvrate.is_set(); }
-  void UnsetP917Rxwoconvrate() { m_P917Rxwoconvrate.unset(); }
+  lmx::elmx_error SetP917Rxwoconvrate(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_P917Rxwoconvrate.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetP917Rxwoconvrate() const { return m_rare.get().m_P917Rxwoconvrate.get(); }
+  bool IssetP917Rxwoconvrate() const { return m_rare.get().m_P917Rxwoconvrate.is_set(); }
+  void UnsetP917Rxwoconvrate() { if (m_rare.is_there()) m_rare.get_or_create().m_P917Rxwoconvrate.unset(); }
 
   /// The children, in document order. The const forms stop the process on a bad index; the non-const `Get` and `Assign`
   /// add default objects until the index exists. Pointers given are owned from then on.
@@ -771,6 +775,8 @@ class ISOXML_API ProcessDataVariable {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -784,14 +790,17 @@ class ISOXML_API ProcessDataVariable {
   lmx::ct_simple_pod_single<int> m_Value;
   lmx::ct_simple_pod_optional<std::string> m_ProductIdRef;
   lmx::ct_simple_pod_optional<std::string> m_DeviceElementIdRef;
-  lmx::ct_simple_pod_optional<std::string> m_ValuePresentationIdRef;
-  lmx::ct_simple_pod_optional<int> m_ActualCulturalPracticeValue;
-  lmx::ct_simple_pod_optional<int> m_ElementTypeInstanceValue;
-  lmx::ct_simple_pod_optional<std::string> m_P917Rxmap;
-  lmx::ct_simple_pod_optional<std::string> m_P917Rxcolumn;
-  lmx::ct_simple_pod_optional<std::string> m_P917Rxunit;
-  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_P917Rxconvrate;
-  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_P917Rxwoconvrate;
+  struct rare_fields {
+    lmx::ct_simple_pod_optional<std::string> m_ValuePresentationIdRef;
+    lmx::ct_simple_pod_optional<int> m_ActualCulturalPracticeValue;
+    lmx::ct_simple_pod_optional<int> m_ElementTypeInstanceValue;
+    lmx::ct_simple_pod_optional<std::string> m_P917Rxmap;
+    lmx::ct_simple_pod_optional<std::string> m_P917Rxcolumn;
+    lmx::ct_simple_pod_optional<std::string> m_P917Rxunit;
+    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_P917Rxconvrate;
+    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_P917Rxwoconvrate;
+  };
+  lmx::ct_rare<rare_fields> m_rare;
   lmx::ct_complex_multi<InnerProcessDataVariable> mInnerProcessDataVariable;
 };
 
@@ -895,6 +904,8 @@ class ISOXML_API Grid {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1068,6 +1079,8 @@ class ISOXML_API Time {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1135,16 +1148,16 @@ class ISOXML_API Position {
   bool SetenumStatus(elmx_enums code);
 
   /// Position dilution of precision. Attribute "E", optional; 0.0 to 99.9.
-  lmx::elmx_error SetPDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_PDOP.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetPDOP() const { return m_PDOP.get(); }
-  bool IssetPDOP() const { return m_PDOP.is_set(); }
-  void UnsetPDOP() { m_PDOP.unset(); }
+  lmx::elmx_error SetPDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_PDOP.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetPDOP() const { return m_rare.get().m_PDOP.get(); }
+  bool IssetPDOP() const { return m_rare.get().m_PDOP.is_set(); }
+  void UnsetPDOP() { if (m_rare.is_there()) m_rare.get_or_create().m_PDOP.unset(); }
 
   /// Horizontal dilution of precision. Attribute "F", optional; 0.0 to 99.9.
-  lmx::elmx_error SetHDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_HDOP.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetHDOP() const { return m_HDOP.get(); }
-  bool IssetHDOP() const { return m_HDOP.is_set(); }
-  void UnsetHDOP() { m_HDOP.unset(); }
+  lmx::elmx_error SetHDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_HDOP.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetHDOP() const { return m_rare.get().m_HDOP.get(); }
+  bool IssetHDOP() const { return m_rare.get().m_HDOP.is_set(); }
+  void UnsetHDOP() { if (m_rare.is_there()) m_rare.get_or_create().m_HDOP.unset(); }
 
   /// Number of satellites used for the position. Attribute "G", optional; 0 to 254.
   lmx::elmx_error SetNumberOfSatelites(unsigned char const& value) { return m_NumberOfSatelites.set(value); }
@@ -1154,16 +1167,16 @@ class ISOXML_API Position {
 
   /// UTC time of day of the position, in milliseconds since midnight. Attribute "H", optional; 0 to
   /// 4294967294.
-  lmx::elmx_error SetGpsUtcTime(unsigned int const& value) { return m_GpsUtcTime.set(value); }
-  unsigned int const& GetGpsUtcTime() const { return m_GpsUtcTime.get(); }
-  bool IssetGpsUtcTime() const { return m_GpsUtcTime.is_set(); }
-  void UnsetGpsUtcTime() { m_GpsUtcTime.unset(); }
+  lmx::elmx_error SetGpsUtcTime(unsigned int const& value) { return m_rare.get_or_create().m_GpsUtcTime.set(value); }
+  unsigned int const& GetGpsUtcTime() const { return m_rare.get().m_GpsUtcTime.get(); }
+  bool IssetGpsUtcTime() const { return m_rare.get().m_GpsUtcTime.is_set(); }
+  void UnsetGpsUtcTime() { if (m_rare.is_there()) m_rare.get_or_create().m_GpsUtcTime.unset(); }
 
   /// UTC date of the position, in days since 1980-01-01. Attribute "I", optional; 0 to 65534.
-  lmx::elmx_error SetPgsUtcDate(unsigned short const& value) { return m_PgsUtcDate.set(value); }
-  unsigned short const& GetPgsUtcDate() const { return m_PgsUtcDate.get(); }
-  bool IssetPgsUtcDate() const { return m_PgsUtcDate.is_set(); }
-  void UnsetPgsUtcDate() { m_PgsUtcDate.unset(); }
+  lmx::elmx_error SetPgsUtcDate(unsigned short const& value) { return m_rare.get_or_create().m_PgsUtcDate.set(value); }
+  unsigned short const& GetPgsUtcDate() const { return m_rare.get().m_PgsUtcDate.get(); }
+  bool IssetPgsUtcDate() const { return m_rare.get().m_PgsUtcDate.is_set(); }
+  void UnsetPgsUtcDate() { if (m_rare.is_there()) m_rare.get_or_create().m_PgsUtcDate.unset(); }
 
   /// True when everything required is there; otherwise what is missing is recorded (see `c_check_tracker`).
   bool IsOccursOk(lmx::c_check_tracker* tracker = nullptr) const;
@@ -1175,6 +1188,8 @@ class ISOXML_API Position {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1188,11 +1203,14 @@ class ISOXML_API Position {
   lmx::ct_simple_pod_single<velmo::lmx::high_precision_c_decimal> m_East;
   lmx::ct_simple_pod_optional<int> m_Altitude;
   lmx::ct_simple_pod_single<std::string> m_Status;
-  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_PDOP;
-  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_HDOP;
   lmx::ct_simple_pod_optional<unsigned char> m_NumberOfSatelites;
-  lmx::ct_simple_pod_optional<unsigned int> m_GpsUtcTime;
-  lmx::ct_simple_pod_optional<unsigned short> m_PgsUtcDate;
+  struct rare_fields {
+    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_PDOP;
+    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_HDOP;
+    lmx::ct_simple_pod_optional<unsigned int> m_GpsUtcTime;
+    lmx::ct_simple_pod_optional<unsigned short> m_PgsUtcDate;
+  };
+  lmx::ct_rare<rare_fields> m_rare;
 };
 
 /// DataLogTrigger, element "DLT". Orders the task controller to log a value and tells what starts each
@@ -1306,6 +1324,8 @@ class ISOXML_API DataLogTrigger {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1373,22 +1393,22 @@ class ISOXML_API DataLogValue {
 
   /// Parameter group number of the logged message, for values that are logged by PGN rather than by DDI.
   /// Attribute "D", optional; 0 to 262143.
-  lmx::elmx_error SetPGN(unsigned int const& value) { return m_PGN.set(value); }
-  unsigned int const& GetPGN() const { return m_PGN.get(); }
-  bool IssetPGN() const { return m_PGN.is_set(); }
-  void UnsetPGN() { m_PGN.unset(); }
+  lmx::elmx_error SetPGN(unsigned int const& value) { return m_rare.get_or_create().m_PGN.set(value); }
+  unsigned int const& GetPGN() const { return m_rare.get().m_PGN.get(); }
+  bool IssetPGN() const { return m_rare.get().m_PGN.is_set(); }
+  void UnsetPGN() { if (m_rare.is_there()) m_rare.get_or_create().m_PGN.unset(); }
 
   /// Position of the value's first bit in the data of the parameter group. Attribute "E", optional; 0 to 63.
-  lmx::elmx_error SetPGNStartBit(unsigned char const& value) { return m_PGNStartBit.set(value); }
-  unsigned char const& GetPGNStartBit() const { return m_PGNStartBit.get(); }
-  bool IssetPGNStartBit() const { return m_PGNStartBit.is_set(); }
-  void UnsetPGNStartBit() { m_PGNStartBit.unset(); }
+  lmx::elmx_error SetPGNStartBit(unsigned char const& value) { return m_rare.get_or_create().m_PGNStartBit.set(value); }
+  unsigned char const& GetPGNStartBit() const { return m_rare.get().m_PGNStartBit.get(); }
+  bool IssetPGNStartBit() const { return m_rare.get().m_PGNStartBit.is_set(); }
+  void UnsetPGNStartBit() { if (m_rare.is_there()) m_rare.get_or_create().m_PGNStartBit.unset(); }
 
   /// Position of the value's last bit in the data of the parameter group. Attribute "F", optional; 0 to 63.
-  lmx::elmx_error SetPGNStopBit(unsigned char const& value) { return m_PGNStopBit.set(value); }
-  unsigned char const& GetPGNStopBit() const { return m_PGNStopBit.get(); }
-  bool IssetPGNStopBit() const { return m_PGNStopBit.is_set(); }
-  void UnsetPGNStopBit() { m_PGNStopBit.unset(); }
+  lmx::elmx_error SetPGNStopBit(unsigned char const& value) { return m_rare.get_or_create().m_PGNStopBit.set(value); }
+  unsigned char const& GetPGNStopBit() const { return m_rare.get().m_PGNStopBit.get(); }
+  bool IssetPGNStopBit() const { return m_rare.get().m_PGNStopBit.is_set(); }
+  void UnsetPGNStopBit() { if (m_rare.is_there()) m_rare.get_or_create().m_PGNStopBit.unset(); }
 
   /// True when everything required is there; otherwise what is missing is recorded (see `c_check_tracker`).
   bool IsOccursOk(lmx::c_check_tracker* tracker = nullptr) const;
@@ -1400,6 +1420,8 @@ class ISOXML_API DataLogValue {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1412,9 +1434,12 @@ class ISOXML_API DataLogValue {
   lmx::ct_simple_pod_single<lmx::c_binary> m_PrecessDataDDI;
   lmx::ct_simple_pod_single<int> m_PrecessDataValue;
   lmx::ct_simple_pod_single<std::string> m_DeviceElementIdRef;
-  lmx::ct_simple_pod_optional<unsigned int> m_PGN;
-  lmx::ct_simple_pod_optional<unsigned char> m_PGNStartBit;
-  lmx::ct_simple_pod_optional<unsigned char> m_PGNStopBit;
+  struct rare_fields {
+    lmx::ct_simple_pod_optional<unsigned int> m_PGN;
+    lmx::ct_simple_pod_optional<unsigned char> m_PGNStartBit;
+    lmx::ct_simple_pod_optional<unsigned char> m_PGNStopBit;
+  };
+  lmx::ct_rare<rare_fields> m_rare;
 };
 
 /// TimeLog, element "TLG". Names the files in which a task's timed records are logged.
@@ -1470,6 +1495,8 @@ class ISOXML_API TimeLog {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1612,6 +1639,8 @@ class ISOXML_API AllocationStamp {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1736,6 +1765,8 @@ class ISOXML_API CommentAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1861,6 +1892,8 @@ class ISOXML_API DeviceAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1971,6 +2004,8 @@ class ISOXML_API WorkerAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2125,6 +2160,8 @@ class ISOXML_API ProductAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2283,6 +2320,8 @@ class ISOXML_API ControlAssignment {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2359,6 +2398,8 @@ class ISOXML_API Connection {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2417,6 +2458,8 @@ class ISOXML_API OperTechPractice {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
+  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);

@@ -478,6 +478,7 @@ bool TaskData::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
+bool TaskData::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error TaskData::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "ISO11783_TaskData", __LINE__, m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set());
 }
@@ -872,6 +873,7 @@ lmx::elmx_error ExternalFileContent::unmarshal(lmx::xmlReader& reader, std::stri
   return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_complex_content, known_elements, true, __LINE__});
 }
 bool ExternalFileContent::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { return false; }
+bool ExternalFileContent::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error ExternalFileContent::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool ExternalFileContent::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerExternalFileContent, false, {elem_event_map, "XFC", __LINE__}, error); }
 bool ExternalFileContent::IsOccursOk(lmx::c_check_tracker*) const {
@@ -928,6 +930,13 @@ bool ExternalFileReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::el
   switch (reader.m_event) {
     case attr_FileName: return read_attribute(reader, m_FileName, spec_external_file_12, __LINE__, error);
     case attr_Type: return read_attribute(reader, m_Type, spec_one_of_1, __LINE__, error);
+  }
+  return false;
+}
+bool ExternalFileReference::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_FileName, spec_external_file_12, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Type, spec_one_of_1, attribute);
   }
   return false;
 }
@@ -988,6 +997,17 @@ bool AttachedFile::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
     case attr_Type: return read_attribute(reader, m_Type, spec_range_1_to_254_uint8, __LINE__, error);
     case attr_FileVersion: return read_attribute(reader, m_FileVersion, spec_text_32, __LINE__, error);
     case attr_FileLength: return read_attribute(reader, m_FileLength, spec_range_0_to_4294967294_uint32, __LINE__, error);
+  }
+  return false;
+}
+bool AttachedFile::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_FileNameWithExtension, spec_attached_file_1, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Preserve, spec_one_of_1_2, attribute);
+    case 'C': return binding::accept_attribute(reader, m_ManufacturerGLN, spec_gln_32, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Type, spec_range_1_to_254_uint8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_FileVersion, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_FileLength, spec_range_0_to_4294967294_uint32, attribute);
   }
   return false;
 }
@@ -1055,6 +1075,18 @@ bool TaskControllerCapabilities::unmarshal_attributes(lmx::xmlReader& reader, lm
   }
   return false;
 }
+bool TaskControllerCapabilities::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ControlFunctionName, spec_bytes_8, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_153, attribute);
+    case 'C': return binding::accept_attribute(reader, m_VersionNumber, spec_one_of_0_to_4, attribute);
+    case 'D': return binding::accept_attribute(reader, m_ProvidedCapabilites, spec_range_0_to_63_uint8, attribute);
+    case 'E': return binding::accept_attribute(reader, m_NumberOfBoomsSectionControl, spec_range_0_to_254_uint8, attribute);
+    case 'F': return binding::accept_attribute(reader, m_NumberOfSectionsSectionControl, spec_range_0_to_254_uint8, attribute);
+    case 'G': return binding::accept_attribute(reader, m_NumberOfControlChannels, spec_range_0_to_254_uint8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error TaskControllerCapabilities::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TCC", __LINE__, m_ControlFunctionName.is_set() && m_Designator.is_set() && m_VersionNumber.is_set() && m_ProvidedCapabilites.is_set() && m_NumberOfBoomsSectionControl.is_set() && m_NumberOfSectionsSectionControl.is_set() && m_NumberOfControlChannels.is_set());
 }
@@ -1116,6 +1148,7 @@ bool P917Metadata::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
+bool P917Metadata::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error P917Metadata::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "P917_Metadata", __LINE__, m_Version.is_set());
 }
@@ -1232,6 +1265,7 @@ bool LinkList::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
+bool LinkList::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error LinkList::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "ISO11783LinkList", __LINE__, m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set());
 }
@@ -1356,6 +1390,16 @@ bool LinkGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* er
   }
   return false;
 }
+bool LinkGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_LGP_112, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_4, attribute);
+    case 'C': return binding::accept_attribute(reader, m_ManufacturerGLN, spec_gln_64, attribute);
+    case 'D': return binding::accept_attribute(reader, m_Namespace, spec_token_255, attribute);
+    case 'E': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+  }
+  return false;
+}
 lmx::elmx_error LinkGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "LGP", __LINE__, m_Id.is_set() && m_Type.is_set());
 }
@@ -1419,6 +1463,14 @@ bool Link::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
     case attr_ObjectIdRef: return read_attribute(reader, m_ObjectIdRef, spec_object_id_ref_110, __LINE__, error);
     case attr_Value: return read_attribute(reader, m_Value, spec_token_255, __LINE__, error);
     case attr_Designator: return read_attribute(reader, m_Designator, spec_text_32, __LINE__, error);
+  }
+  return false;
+}
+bool Link::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_ObjectIdRef, spec_object_id_ref_110, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Value, spec_token_255, attribute);
+    case 'C': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
   }
   return false;
 }

@@ -6,6 +6,7 @@ No loop and no error handling is generated. Everything that a class knows about 
 
 import textwrap
 
+import matcher
 import model
 
 WIDTH = 110
@@ -61,10 +62,10 @@ def declare_value(element, value):
             f"  {cpp_type} const& Back{name}() const {{ LMX_ASSERT(!m_{name}.empty()); return m_{name}[m_{name}.size() - 1]; }}",
         ]
     lines += [
-        f"  lmx::elmx_error Set{name}({cpp_type} const& value) {{ return m_{name}.set(value); }}",
-        f"  {cpp_type} const& Get{name}() const {{ return m_{name}.get(); }}",
-        f"  bool Isset{name}() const {{ return m_{name}.is_set(); }}",
-        f"  void Unset{name}() {{ m_{name}.unset(); }}",
+        f"  lmx::elmx_error Set{name}({cpp_type} const& value) {{ return {value.own_member}.set(value); }}",
+        f"  {cpp_type} const& Get{name}() const {{ return {value.member}.get(); }}",
+        f"  bool Isset{name}() const {{ return {value.member}.is_set(); }}",
+        f"  void Unset{name}() {{ {'if (m_rare.is_there()) ' if value.rare else ''}{value.own_member}.unset(); }}",
     ]
     if value.rule.one_of:
         lines += [
@@ -217,6 +218,8 @@ def declare_element(element):
         "  lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);",
         "  /// Reads the attribute now at the reader. False when it is none of this element's.",
         "  bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);",
+        "  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.",
+        "  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);",
         "  /// 25 unless all required attributes came.",
         "  lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);",
         "  bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);",
@@ -225,7 +228,10 @@ def declare_element(element):
         "  static lmx::s_event_map const elem_event_map[];",
         "  static lmx::s_known_elements const known_elements[];",
     ]
-    fields = [declare_field(value) for value in element.values]
+    fields = [declare_field(value) for value in element.values if not value.rare]
+    rare = [declare_field(value) for value in element.values if value.rare]
+    if rare:
+        fields += ["  struct rare_fields {"] + ["  " + field for field in rare] + ["  };", "  lmx::ct_rare<rare_fields> m_rare;"]
     if element.alternatives:
         container = "optional" if element.children == "at_most_one" else "multi"
         fields.append(f"  lmx::ct_complex_{container}<{inner(element)}> m{inner(element)};")
@@ -410,6 +416,7 @@ def define_attributes(element):
     if not element.attributes:
         return [
             f"bool {name}::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) {{ return false; }}",
+            f"bool {name}::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) {{ return false; }}",
             f"lmx::elmx_error {name}::unmarshal_attributes_check(lmx::xmlReader&) {{ return lmx::ELMX_OK; }}",
         ]
     lines = [
@@ -417,9 +424,10 @@ def define_attributes(element):
         "  reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);",
         "  switch (reader.m_event) {",
     ]
-    lines += [f"    case {attribute_event(element, value)}: return read_attribute(reader, m_{value.field}, {value.spec}, __LINE__, error);"
+    lines += [f"    case {attribute_event(element, value)}: return read_attribute(reader, {value.own_member}, {value.spec}, __LINE__, error);"
               for value in element.attributes]
     lines += ["  }", "  return false;", "}"]
+    lines += define_accept(element)
     required = [f"m_{value.field}.is_set()" for value in element.attributes if value.use == "required"]
     if not required:
         return lines + [f"lmx::elmx_error {name}::unmarshal_attributes_check(lmx::xmlReader&) {{ return lmx::ELMX_OK; }}"]
@@ -428,6 +436,18 @@ def define_attributes(element):
         f"  return check_required(reader, {tag_literal(element)}, __LINE__, {' && '.join(required)});",
         "}",
     ]
+
+
+def define_accept(element):
+    """The short cut for the attributes whose names are one letter, as all but the extensions' are."""
+    head = f"bool {element.name}::accept_attribute(lmx::xmlReader&"
+    quick = [value for value in element.attributes if len(value.xml) == 1 and has_acceptor(value)]
+    if not quick:
+        return [f"{head}, lmx::plain_attribute const&) {{ return false; }}"]
+    lines = [f"{head} reader, lmx::plain_attribute const& attribute) {{", "  switch (attribute.letter()) {"]
+    lines += [f"    case '{value.xml}': return binding::accept_attribute(reader, {value.own_member}, {value.spec}, attribute);"
+              for value in quick]
+    return lines + ["  }", "  return false;", "}"]
 
 
 def attribute_event(element, value):
@@ -511,8 +531,8 @@ def define_element(element):
     for value in element.attributes:
         if value.rule.one_of:
             lines += [
-                f"elmx_enums {name}::Getenum{value.field}() const {{ return enum_code({list_name(value)}, m_{value.field}.get()); }}",
-                f"bool {name}::Setenum{value.field}(elmx_enums code) {{ return set_enum({list_name(value)}, code, m_{value.field}); }}",
+                f"elmx_enums {name}::Getenum{value.field}() const {{ return enum_code({list_name(value)}, {value.member}.get()); }}",
+                f"bool {name}::Setenum{value.field}(elmx_enums code) {{ return set_enum({list_name(value)}, code, {value.own_member}); }}",
             ]
     return lines + [""]
 
@@ -670,14 +690,14 @@ def value_rule_doc(rule):
 
 def validators_source(schema):
     lexical, values = numbered_validators(schema)
-    patterns = sorted({value.rule.pattern for _, value in lexical if value.rule.pattern})
+    patterns = pattern_names(schema)
     bounds = sorted({bound for _, value in lexical if value.rule.minimum is not None
                      for bound in (value.rule.minimum, value.rule.maximum)}, key=int)
     lines = banner("schema/rules.toml") + includes(["isoxmllib/validators.h"]) + [""] + includes(["isoxmllib/rules.h", "isoxmllib/specs.h"])
     lines += ["", "using namespace binding;", "", "namespace {", ""]
     if patterns:
         lines += ["// Compiled once, when the library is loaded."]
-        lines += [f"lmx::c_regex const pattern_{index}({quoted(pattern)});" for index, pattern in enumerate(patterns)] + [""]
+        lines += [f"lmx::c_regex const pattern_{index}({quoted(pattern)});" for pattern, index in patterns.items()] + [""]
     if bounds:
         lines += [f"lmx::c_big_int const {bound_name(bound)}({quoted(bound)});" for bound in bounds] + [""]
     ranges = sorted({(value.cpp_type, bound) for _, value in values if value.type == "decimal" and value.rule.low is not None
@@ -707,7 +727,7 @@ def define_lexical(number, rule, patterns):
         return f"{head}(lmx::c_xml_reader&, std::string const&) {{ return lmx::ELMX_OK; }}"
     minimum = rule.min_length if rule.min_length is not None else 0
     maximum = rule.max_length if rule.max_length is not None else "no_max_length"
-    pattern = f"&pattern_{patterns.index(rule.pattern)}" if rule.pattern else "nullptr"
+    pattern = f"&pattern_{patterns[rule.pattern]}" if rule.pattern else "nullptr"
     return f"{head}{reader_text} {{ return check_text(reader, text, {{{form}, {minimum}, {maximum}, {pattern}}}); }}"
 
 
@@ -754,13 +774,73 @@ def specs_header(schema):
     return lines + ["", "}  // namespace binding"]
 
 
+def pattern_names(schema):
+    """Pattern -> index, the same for the compiled pattern and its matcher."""
+    patterns = sorted({value.rule.pattern for value in schema.lexical if value.rule.pattern})
+    return {pattern: index for index, pattern in enumerate(patterns)}
+
+
+def matchers_header(schema):
+    lines = banner("schema/rules.toml") + ["// Matchers of the patterns, for texts that are plain ASCII. Private to the library.", "#pragma once", "",
+                                           '#include "isoxmllib/rules.h"', "", "namespace binding {", ""]
+    for pattern, index in pattern_names(schema).items():
+        lines += [f"/// {pattern}", f"extern text_matcher const matcher_{index};"]
+    return lines + ["", "}  // namespace binding"]
+
+
+def matchers_source(schema):
+    lines = banner("schema/rules.toml") + ['#include "isoxmllib/matchers.h"', "", "namespace binding {", ""]
+    for pattern, index in pattern_names(schema).items():
+        automaton = matcher.Matcher(pattern)
+        rows = [", ".join(map(str, row)) for row in automaton.steps]
+        lines += ["namespace {",
+                  f"constexpr unsigned char classes_{index}[128] = {{{', '.join(map(str, automaton.classes))}}};",
+                  f"constexpr unsigned char steps_{index}[] = {{{',  '.join(rows)}}};",
+                  f"constexpr bool accepting_{index}[] = {{{', '.join(str(int(accepts)) for accepts in automaton.accepting)}}};",
+                  "}  // namespace",
+                  f"text_matcher const matcher_{index}{{classes_{index}, steps_{index}, accepting_{index}, {len(automaton.steps[0])}}};", ""]
+    return lines + ["}  // namespace binding"]
+
+
+def has_acceptor(value):
+    rule = value.rule
+    return value.type in ("string", "decimal") or rule.minimum is not None or (value.type == "binary" and not rule.pattern)
+
+
+def acceptor(schema, value):
+    """How a plain text of the rule is checked and stored at once; null where only the long road knows how."""
+    if not has_acceptor(value):
+        return "nullptr"
+    rule, text = value.rule, "lmx::plain_text_view text"
+    if rule.one_of:
+        body = f"accept_one_of(value, text, list_{value.value})"
+    elif value.type == "string":
+        limits = f"{{nullptr, {rule.min_length or 0}, {'no_max_length' if rule.max_length is None else rule.max_length}, nullptr}}"
+        body = (f"accept_match(value, text, {limits}, matcher_{pattern_names(schema)[rule.pattern]})" if rule.pattern
+                else f"accept_{'token' if rule.white_space == 'collapse' else 'text'}(value, text, {limits})")
+    elif rule.minimum is not None:
+        body = f"accept_integer(value, text, {rule.minimum}LL, {rule.maximum}LL)"
+    elif value.type == "decimal":
+        body = f"accept_decimal(value, text, {{{inner_bounds(rule)}}})"
+    else:
+        body = f"accept_bytes(value, text, {rule.min_bytes}, {rule.max_bytes})"
+    return f"[]({value.cpp_type}& value, {text}) {{ return {body}; }}"
+
+
+def inner_bounds(rule):
+    """The whole parts that are in range whatever the fraction: of positive numbers from and below, of negative ones below."""
+    low, high = float(rule.low), float(rule.high)
+    return f"{1 if low > 0 else 0}, {int(high) if high > 0 else 0}, {int(-low) if low < 0 else 0}"
+
+
 def specs_source(schema):
-    lines = banner("schema/rules.toml") + ['#include "isoxmllib/specs.h"', "", '#include "GenLibrarySupportFiles/lmxtypes/conversions.h"', "",
-                                           "namespace binding {", ""]
+    lines = banner("schema/rules.toml") + ['#include "isoxmllib/specs.h"', ""] + includes([
+        "GenLibrarySupportFiles/lmxparse/value_output.h", "GenLibrarySupportFiles/lmxtypes/conversions.h", "isoxmllib/matchers.h"])
+    lines += ["", "namespace binding {", ""]
     for value in spec_rows(schema):
         mode = {"preserve": "lmx::EXWS_PRESERVE", "collapse": "lmx::EXWS_COLLAPSE"}[value.rule.white_space]
         lines.append(f"lmx::c_validation_spec<{value.cpp_type}> const {value.spec}({mode}, \"\", &LexicalValidator{value.lexical}, "
-                     f"&ValueValidator{value.value}, &lmx::v_to_o);")
+                     f"&ValueValidator{value.value}, &lmx::v_to_o, &lmx::o_to_v, {acceptor(schema, value)});")
     return lines + ["", "}  // namespace binding"]
 
 
@@ -776,6 +856,8 @@ def files(schema):
         "isoxmllib/enums.h": enums_header(schema),
         "isoxmllib/validators.h": validators_header(schema),
         "isoxmllib/validators.cpp": validators_source(schema),
+        "isoxmllib/matchers.h": matchers_header(schema),
+        "isoxmllib/matchers.cpp": matchers_source(schema),
         "isoxmllib/specs.h": specs_header(schema),
         "isoxmllib/specs.cpp": specs_source(schema),
         "isoxmllib/root.h": root_header(schema),

@@ -89,9 +89,20 @@ class Value:
     rule: Rule
     doc: str
     own_event: bool = False
+    rare: bool = False
     event: int = 0
     lexical: int = 0
     value: int = 0
+
+    @property
+    def member(self):
+        """The C++ expression that reads the field."""
+        return f"m_rare.get().m_{self.field}" if self.rare else f"m_{self.field}"
+
+    @property
+    def own_member(self):
+        """The C++ expression that may change the field."""
+        return f"m_rare.get_or_create().m_{self.field}" if self.rare else f"m_{self.field}"
 
     @property
     def cpp_type(self):
@@ -228,8 +239,9 @@ def make_value(families, element, row, has_xml_name=True):
         fail(where, f'unknown type "{value_type}"')
     for option in options:
         one_of(where, "option", option, ("own_event",))
-    return Value(xml if has_xml_name else None, name, use, value_type, make_rule(families, where, rule, value_type),
-                 doc, options.get("own_event", False))
+    rare = use == "rare"
+    return Value(xml if has_xml_name else None, name, "optional" if rare else use, value_type,
+                 make_rule(families, where, rule, value_type), doc, options.get("own_event", False), rare)
 
 
 KEYS = {"tag", "doc", "alternative", "collect", "attributes", "list_of", "simple_children", "text", "children",
@@ -245,7 +257,7 @@ def load_element(families, group, name, row):
     element = Element(name, row["tag"], row["doc"], group, row.get("collect"), row.get("alternative", name))
     for attribute in row.get("attributes", []):
         element.attributes.append(make_value(families, name, attribute))
-        one_of(f"{name} {attribute[0]}", "use", element.attributes[-1].use, USES)
+        one_of(f"{name} {attribute[0]}", "use", element.attributes[-1].use, USES)  # "rare" is optional by now
     for xml, child, use, rule, doc in row.get("simple_children", []):
         one_of(f"{name} {xml}", "use", use, USES + ("repeated",))
         element.simple_children.append(make_value(families, name, [xml, child, use, "string", rule, doc]))

@@ -23,20 +23,27 @@ struct c_untyped_validation_spec {
 };
 
 /// The whole of it. A spec without an `o_to_v` can read but not write.
+///
+/// `accept` is a short cut for the usual text of an attribute: it stores the value and gives true only where
+/// the validators would pass the text and `v_to_o` would store the same; else it changes nothing, and the
+/// long road decides and reports. May be null.
 template <class T>
 struct c_validation_spec : c_untyped_validation_spec {
   constexpr c_validation_spec(elmx_whitespace whitespace, char const* default_text, lexical_validator lexical,
                               elmx_error (*value)(c_xml_reader&, T const&),
                               void (*convert)(T&, std::string const&),
-                              std::ostream& (*output)(std::ostream&, T const&) = nullptr)
+                              std::ostream& (*output)(std::ostream&, T const&) = nullptr,
+                              bool (*accept)(T&, plain_text_view) = nullptr)
       : c_untyped_validation_spec{whitespace, default_text, lexical},
         mp_value_validator(value),
         mp_v_to_o(convert),
-        mp_o_to_v(output) {}
+        mp_o_to_v(output),
+        mp_accept(accept) {}
 
   elmx_error (*mp_value_validator)(c_xml_reader& reader, T const& value);
   void (*mp_v_to_o)(T& value, std::string const& text);
   std::ostream& (*mp_o_to_v)(std::ostream& out, T const& value);
+  bool (*mp_accept)(T& value, plain_text_view text);
 };
 
 /// For a type without content: any text is error 35.

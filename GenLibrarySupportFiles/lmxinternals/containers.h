@@ -68,6 +68,35 @@ class ct_simple_pod_single : public detail::simple_field<T, C> {};
 template <class T, class V = T, class C = ct_non_mixed<T>>
 class ct_simple_pod_optional : public detail::simple_field<T, C> {};
 
+/// Fields that few elements of a class have: one pointer for all of them, which is null until one is set. `T`
+/// is a struct of fields.
+template <class T>
+class ct_rare {
+ public:
+  ct_rare() = default;
+  ct_rare(ct_rare const& other) : p(other.p ? std::make_unique<T>(*other.p) : nullptr) {}
+  ct_rare(ct_rare&&) noexcept = default;
+  ct_rare& operator=(ct_rare const& other) {
+    p = other.p ? std::make_unique<T>(*other.p) : nullptr;
+    return *this;
+  }
+  ct_rare& operator=(ct_rare&&) noexcept = default;
+
+  bool is_there() const { return p != nullptr; }
+  /// The fields; of an element that has none set, fields that are not set.
+  T const& get() const {
+    static T const none{};
+    return p ? *p : none;
+  }
+  T& get_or_create() {
+    if (!p) p = std::make_unique<T>();
+    return *p;
+  }
+
+ private:
+  std::unique_ptr<T> p;
+};
+
 /// Frees an owned object.
 template <class T>
 struct ct_happy_ptr_deleter {

@@ -54,6 +54,7 @@ bool c_xml_reader::is_valid_qname(std::string const& text) const {
 
 bool c_xml::get_named_attribute(c_xml_local const* local, int ns_id, std::string const& name,
                                 std::string* value) {
+  p_copy_plain_attributes();
   bool found = false;
   std::string attribute, local_name;
   while (!found && m_attributes.has_next()) {
@@ -114,6 +115,7 @@ void c_xml::p_add_any_attribute_data(std::string* out, c_attribute_data* data) {
 // Appends the start tag of `name`. The end of the input ends the tag.
 bool c_xml::p_open_any_element(std::string const& name, std::string* out, bool* is_empty) {
   out->append("<").append(name);
+  p_copy_plain_attributes();
   p_add_any_attribute_data(out, &m_ns_attributes);
   p_add_any_attribute_data(out, &m_attributes);
   int quote = 0;
@@ -227,6 +229,7 @@ bool c_xml::get_nested_element_value(std::string* value, std::string* end_name, 
   value->clear();
   end_name->clear();
   m_getter.set_ws_mode(mode);
+  p_forget_plain_attributes();
   m_attributes.clear();
   m_ns_attributes.clear();
   std::string data;

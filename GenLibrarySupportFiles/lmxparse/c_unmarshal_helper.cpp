@@ -5,8 +5,9 @@ namespace lmx {
 c_unmarshal_helper::c_unmarshal_helper(c_xml_reader& reader)
     : mr_reader(reader), m_name_offset(reader.m_name_stack.size()) {
   std::string const& name = reader.m_name;
+  std::vector<char>& stack = reader.m_name_stack;
   reader.m_name_offsets.push_back(m_name_offset);
-  reader.m_name_stack.insert(reader.m_name_stack.end(), name.c_str(), name.c_str() + name.size() + 1);
+  for (std::size_t i = 0; i <= name.size(); ++i) stack.push_back(name.c_str()[i]);
 }
 
 c_unmarshal_helper::~c_unmarshal_helper() {
@@ -128,9 +129,9 @@ elmx_error c_unmarshal_helper::p_skip_element() {
 }
 
 elmx_error c_unmarshal_helper::p_check_end_of_element() {
-  const std::string name = p_element_name();
+  char const* const name = mr_reader.m_name_stack.data() + m_name_offset;
   if (mr_reader.m_event == EXE_ELEMENT_END && mr_reader.m_name == name) return ELMX_OK;
-  return p_report(ELMX_BAD_END_OF_ELEMENT, name);
+  return p_report(ELMX_BAD_END_OF_ELEMENT, p_element_name());
 }
 
 elmx_error c_unmarshal_helper::p_verify_element_end() {
@@ -143,8 +144,8 @@ elmx_error c_unmarshal_helper::p_verify_element_end() {
 // here, and the end that follows it is EXE_SKIPPED_TO_END. That is refused on purpose: an element without
 // content may not hold even an unknown child, while one with children may.
 elmx_error c_unmarshal_helper::p_unmarshal_empty_content_case() {
-  const c_xml_reader_local scope(mr_reader);
   if (mr_reader.m_event == EXE_ELEMENT_END) return ELMX_OK;
+  const c_xml_reader_local scope(mr_reader);
   elmx_error error = p_next_event();
   while (error == ELMX_OK && mr_reader.m_skip_unknown && p_is_element_event()) {
     error = p_skip_element();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "GenLibrarySupportFiles/lmxinternals/words.h"
+#include "GenLibrarySupportFiles/lmxparse/byte_classes.h"
 #include "GenLibrarySupportFiles/lmxparse/entity_name_readers.h"
 
 namespace lmx {
@@ -14,8 +16,47 @@ constexpr std::size_t usual_attribute_bytes = 150;
 std::string shown(int c) { return c == -1 ? std::string() : std::string(1, static_cast<char>(c)); }
 
 // True for "xmlns" and for anything that begins "xmlns:".
-bool declares_namespace(char const* name) {
-  return std::strncmp(name, "xmlns", 5) == 0 && (name[5] == '\0' || name[5] == ':');
+bool declares_namespace(char const* name, std::size_t length) {
+  return length >= 5 && std::memcmp(name, "xmlns", 5) == 0 && (length == 5 || name[5] == ':');
+}
+
+char const* as_chars(unsigned char const* bytes) { return reinterpret_cast<char const*>(bytes); }
+
+std::size_t distance(unsigned char const* begin, unsigned char const* end) {
+  return static_cast<std::size_t>(end - begin);
+}
+
+// White space from `p` on; the line feeds in it are added to `*line_feeds`.
+unsigned char const* skip_space(unsigned char const* p, unsigned char const* end, int* line_feeds) {
+  for (;;) {
+    while (end - p >= 8 && words::load(p) == words::blanks) p += 8;
+    if (p == end) return p;
+    if (*p == '\n') {
+      ++*line_feeds;
+    } else if (!is_in_class(*p, plain_blank)) {
+      return p;
+    }
+    ++p;
+  }
+}
+
+unsigned char const* skip_name(unsigned char const* p, unsigned char const* end) {
+  while (p != end && is_in_class(*p, plain_name)) ++p;
+  return p;
+}
+
+// The first byte that is `quote` or must not be taken in bulk.
+unsigned char const* skip_value(unsigned char const* p, unsigned char const* end, unsigned char quote) {
+  for (; end - p >= 8; p += 8) {
+    const std::uint64_t word = words::load(p);
+    const std::uint64_t marks =
+        words::marks_of(word, quote) | words::marks_of(word, '&') | words::marks_of_unprintable(word);
+    if (marks == 0) continue;
+    p += words::before_mark(marks);
+    break;
+  }
+  while (p != end && *p != quote && (is_in_class(*p, plain_literal) || *p == '"' || *p == '\'')) ++p;
+  return p;
 }
 
 }  // namespace
@@ -49,6 +90,7 @@ void c_xml::rewind() {
   m_declaration_read = false;
   m_doctype_read = false;
   m_past_prolog = false;
+  p_forget_plain_attributes();
   m_getter.rewind();
 }
 
@@ -61,6 +103,8 @@ elxp_xml_event c_xml::p_not_well_formed() {
 
 elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
   for (;;) {
+    const elxp_xml_event plain = p_get_plain_item(local, name);
+    if (plain != EXE_UNKNOWN) return plain;
     name->clear();
     int c = m_getter.get_non_space();
     if (c == -1) {
@@ -91,6 +135,89 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
       return EXE_ERROR;
     }
   }
+}
+
+// A tag that lies whole in the source's buffer: its name, single line feeds and other white space between
+// quoted attributes, no reference, no declaration of a namespace. EXE_UNKNOWN, with nothing taken, for
+// anything else; so whatever is reported is reported on the other road.
+//
+// Taken is what a reader of single characters would have taken: an end tag, or a start tag up to its end.
+elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* name) {
+  const byte_window window = m_getter.line_window();
+  int line_feeds = 0;
+  unsigned char const* p = skip_space(window.begin, window.end, &line_feeds);
+  if (window.end - p < 3 || *p != '<') return EXE_UNKNOWN;
+  const bool is_end_tag = *++p == '/';
+  if (is_end_tag) ++p;
+  if (!is_in_class(*p, is_end_tag ? plain_name : plain_name_start)) return EXE_UNKNOWN;
+
+  unsigned char const* const begin = p;
+  p = skip_name(p, window.end);
+  const std::size_t length = distance(begin, p);
+  if (is_end_tag) {
+    if (p == window.end || *p++ != '>') return EXE_UNKNOWN;
+  } else {
+    // What stops the name is pushed back, and a line end would then count twice.
+    if (p == window.end || *p == '\n') return EXE_UNKNOWN;
+    m_attributes.clear();
+    m_ns_attributes.clear();
+    p = p_scan_plain_attributes({p, window.end}, local == nullptr, &line_feeds);
+    if (p == nullptr) return EXE_UNKNOWN;
+    m_attributes_cut_off = false;
+  }
+  copy_name(name, as_chars(begin), length);
+  m_getter.consume_lines(p, line_feeds);
+  m_past_prolog = true;
+  return is_end_tag ? EXE_ELEMENT_END : EXE_TOKEN;
+}
+
+// Returns where the tag ends, at its ">" or "/>"; null, and nothing captured, when it is not plain.
+unsigned char const* c_xml::p_scan_plain_attributes(byte_window window, bool take_declarations,
+                                                    int* line_feeds) {
+  p_forget_plain_attributes();
+  m_plain_fetches = m_getter.fetches();
+  unsigned char const* p = window.begin;
+  unsigned char const* const end = window.end;
+  for (;;) {
+    if (*p == ' ') ++p;  // nearly always the only one
+    if (p != end && *p <= ' ') p = skip_space(p, end, line_feeds);
+    if (end - p < 2) break;
+    if (*p == '>' || (*p == '/' && p[1] == '>')) return p;
+    if (!is_in_class(*p, plain_name_start)) break;
+    unsigned char const* const name = p;
+    p = p[1] == '=' ? p + 1 : skip_name(p, end);
+    const std::size_t name_length = distance(name, p);
+    if (end - p < 3 || *p != '=') break;
+    const unsigned char quote = *++p;
+    if (quote != '"' && quote != '\'') break;
+    if (!take_declarations && declares_namespace(as_chars(name), name_length)) break;
+    unsigned char const* const value = ++p;
+    p = skip_value(p, end, quote);
+    if (p == end || *p != quote) break;
+    m_plain.push_back({as_chars(name), name_length, distance(value, p)});
+    if (++p == end) break;
+  }
+  p_forget_plain_attributes();
+  return nullptr;
+}
+
+// For those that look at captured attributes as a whole.
+void c_xml::p_copy_plain_attributes() {
+  if (m_plain.empty()) return;
+  if (p_is_plain()) {
+    std::string& data = m_attributes.m_data;
+    data.clear();
+    m_attributes.m_index = 0;
+    for (std::size_t i = 0; i != m_plain.size(); ++i) {
+      if (i == m_plain_next) m_attributes.m_index = data.size();
+      data.append(m_plain[i].name, m_plain[i].name_length).push_back('\0');
+      if (m_plain_value_pending && i + 1 == m_plain_next) m_attributes.m_index = data.size();
+      data.append(m_plain[i].value() - 1, m_plain[i].value_length + 1).push_back('\0');
+    }
+    if (!m_plain_value_pending && m_plain_next == m_plain.size()) m_attributes.m_index = data.size();
+    m_attributes.close();
+  }
+  p_forget_plain_attributes();
 }
 
 elxp_xml_event c_xml::p_get_start_tag(c_xml_local* local, std::string* name, int first) {
@@ -212,6 +339,7 @@ bool c_xml::p_get_xml_text(std::string* out) {
 // ---- Attributes ----
 
 bool c_xml::p_capture_attributes(c_xml_local* local) {
+  p_forget_plain_attributes();
   m_attributes.clear();
   m_ns_attributes.clear();
   m_attributes_cut_off = false;
@@ -228,7 +356,8 @@ bool c_xml::p_capture_attributes(c_xml_local* local) {
     c = m_getter.get_name_chars(&data);
     m_getter.unget(c);
     bool captured;
-    if (local != nullptr && declares_namespace(data.c_str() + name_offset)) {
+    if (local != nullptr &&
+        declares_namespace(data.c_str() + name_offset, std::strlen(data.c_str() + name_offset))) {
       m_attribute_name.assign(data, name_offset, std::string::npos);
       data.resize(name_offset);
       captured = p_capture_declaration(local, m_attribute_name);
@@ -301,10 +430,27 @@ bool c_xml::p_capture_attribute_value(c_attribute_data* data, std::size_t* value
 }
 
 elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
+  if (plain_attribute const* const attribute = next_plain_attribute()) {
+    copy_name(name, attribute->name, attribute->name_length);
+    ++m_plain_next;
+    m_plain_value_pending = true;
+    return EXE_TOKEN;
+  }
   name->clear();
   if (m_attributes.has_next()) {
     m_attributes.take_name(name);
     return EXE_TOKEN;
+  }
+  const byte_window window = m_getter.plain_window();
+  if (window.end - window.begin >= 2 && !in_decl) {
+    if (*window.begin == '>') {
+      m_getter.consume_plain(window.begin + 1);
+      return EXE_START_TAG_END;
+    }
+    if (*window.begin == '/' && window.begin[1] == '>') {
+      m_getter.consume_plain(window.begin + 2);
+      return EXE_ELEMENT_END;
+    }
   }
   int c = m_getter.get_non_space();
   if (c == '>') return EXE_START_TAG_END;
@@ -318,6 +464,14 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
 }
 
 bool c_xml::get_attribute_value(std::string* out, elmx_whitespace mode) {
+  if (m_plain_value_pending && p_is_plain()) {
+    plain_attribute const& attribute = m_plain[m_plain_next - 1];
+    m_plain_value_pending = false;
+    m_getter.set_ws_mode(mode);
+    out->clear();
+    m_getter.add_run_wsp(out, attribute.value(), attribute.value_length);
+    return true;
+  }
   return p_get_captured_value(&m_attributes, out, mode);
 }
 
@@ -347,6 +501,10 @@ bool c_xml::p_get_captured_value(c_attribute_data* data, std::string* out, elmx_
 }
 
 bool c_xml::skip_attribute_value() {
+  if (m_plain_value_pending && p_is_plain()) {
+    m_plain_value_pending = false;
+    return true;
+  }
   m_attributes.skip_value();
   return true;
 }
@@ -408,6 +566,7 @@ bool c_xml::skip_rest_of_empty_element(std::string const& name) {
 bool c_xml::skip_rest_of_element(std::string const& name) {
   bool is_empty = false;
   if (!m_getter.move_to_start_tag_end(&is_empty)) return false;
+  p_forget_plain_attributes();
   return is_empty || skip_element_body(name);
 }
 

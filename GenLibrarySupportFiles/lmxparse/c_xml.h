@@ -4,9 +4,14 @@
 //
 // The attributes of a start tag are captured whole before the first is looked at. So every namespace
 // declaration of a tag is known in time, and a value is expanded only when it is asked for.
+//
+// There are two roads to a tag. One that lies whole in the source's buffer, with nothing out of the ordinary
+// in it, is found by one scan over the buffer, and its attributes are left where they lie. Everything else is
+// read a character at a time and its attributes are copied. Nobody above can tell which road was taken.
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -51,6 +56,35 @@ struct ISOXML_API c_attribute_data {
   void skip_value();
 };
 
+/// An attribute where it lies in the source's buffer: name, "=", quote, value.
+struct plain_attribute {
+  char const* name;
+  std::size_t name_length;
+  std::size_t value_length;
+
+  /// The name, if it is a single letter; else NUL.
+  char letter() const { return name_length == 1 ? *name : '\0'; }
+  char const* value() const { return name + name_length + 2; }
+};
+
+/// Text in the source's buffer; null when there is none.
+struct plain_text_view {
+  char const* begin;
+  char const* end;
+};
+
+/// `out->assign(name, length)` for the names of a document, which are so short that a call costs more.
+inline void copy_name(std::string* out, char const* name, std::size_t length) {
+  if (length == 3) {
+    out->clear();
+    out->push_back(name[0]);
+    out->push_back(name[1]);
+    out->push_back(name[2]);
+  } else {
+    out->assign(name, length);
+  }
+}
+
 class ISOXML_API c_xml {
  public:
   /// What `get_namespace` gives for a name in no namespace, and for a prefix that nothing binds.
@@ -74,6 +108,17 @@ class ISOXML_API c_xml {
   bool get_attribute_value(std::string* out, elmx_whitespace mode);
   /// Steps over the value of the attribute just named.
   bool skip_attribute_value();
+  /// The next attribute, when it lies in the source's buffer as it is, its value ASCII without references
+  /// and line ends; null when it does not, or none is left. Borrowed until anything else is read.
+  plain_attribute const* next_plain_attribute() const {
+    return m_plain_next != m_plain.size() && m_plain_fetches == m_getter.fetches() ? &m_plain[m_plain_next]
+                                                                                   : nullptr;
+  }
+  /// Counts that attribute as named and its value as read under `mode`.
+  void take_plain_attribute(elmx_whitespace mode) {
+    m_getter.set_ws_mode(mode);
+    ++m_plain_next;
+  }
   /// The text of the element whose start tag has ended, up to the first tag; comments and instructions
   /// vanish. False with 34 at the end of the input, 23 for a bad "<!", nothing for a bad reference.
   bool get_element_value(std::string* out, elmx_whitespace mode, bool expand_entities);
@@ -86,7 +131,10 @@ class ISOXML_API c_xml {
   bool skip_rest_of_element(std::string const& name);
   /// The same from behind the start tag.
   bool skip_element_body(std::string const& name);
-  bool move_to_start_tag_end(bool* is_empty) { return m_getter.move_to_start_tag_end(is_empty); }
+  bool move_to_start_tag_end(bool* is_empty) {
+    p_copy_plain_attributes();
+    return m_getter.move_to_start_tag_end(is_empty);
+  }
   /// Starts the document again.
   void rewind();
 
@@ -147,6 +195,15 @@ class ISOXML_API c_xml {
   bool p_get_xml_text(std::string* out);
   bool p_select_entity(c_entity_name_reader& reader, std::string* out);
   bool p_select_input_entity(std::string* out);
+  elxp_xml_event p_get_plain_item(c_xml_local const* local, std::string* name);
+  unsigned char const* p_scan_plain_attributes(byte_window window, bool take_declarations, int* line_feeds);
+  bool p_is_plain() const { return !m_plain.empty() && m_plain_fetches == m_getter.fetches(); }
+  void p_copy_plain_attributes();
+  void p_forget_plain_attributes() {
+    m_plain.clear();
+    m_plain_next = 0;
+    m_plain_value_pending = false;
+  }
   bool p_capture_attributes(c_xml_local* local);
   bool p_capture_declaration(c_xml_local* local, std::string const& name);
   bool p_capture_attribute_value(c_attribute_data* data, std::size_t* value_offset);
@@ -168,7 +225,11 @@ class ISOXML_API c_xml {
   bool m_attributes_cut_off = false;
   c_attribute_data m_attributes;
   c_attribute_data m_ns_attributes;
-  std::string m_attribute_name;  // storage kept between attributes
+  std::vector<plain_attribute> m_plain;  // in place of `m_attributes`, for a tag that lies in the buffer
+  std::size_t m_plain_next = 0;
+  bool m_plain_value_pending = false;      // the attribute before `m_plain_next` has only been named
+  unsigned long long m_plain_fetches = 0;  // when the source was asked for more since, they are gone
+  std::string m_attribute_name;            // storage kept between attributes
 };
 
 }  // namespace lmx

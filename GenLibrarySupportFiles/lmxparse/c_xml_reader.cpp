@@ -13,13 +13,18 @@ bool is_name_event(int event) {
   return event == EXE_UNKNOWN || event == EXE_TOKEN || event >= EXE_FIRST_USER;
 }
 
+// Most names have three letters.
+bool are_equal(char const* a, char const* b, std::size_t length) {
+  return length == 3 ? a[1] == b[1] && a[2] == b[2] && a[0] == b[0] : std::memcmp(a, b, length) == 0;
+}
+
 // Rows of both kinds of table begin alike. The first byte and the length sort out nearly every other row.
 template <class Row>
 Row const* find_row(Row const* rows, int ns_id, char const* name, std::size_t length) {
   if (rows == nullptr) return nullptr;
   for (Row const* row = rows; row->mp_name != nullptr; ++row) {
-    if (row->m_ns_id == ns_id && row->mp_name[0] == name[0] && row->m_length == length &&
-        std::memcmp(row->mp_name, name, length) == 0) {
+    if (row->mp_name[0] == name[0] && row->m_length == length && row->m_ns_id == ns_id &&
+        are_equal(row->mp_name, name, length)) {
       return row;
     }
   }

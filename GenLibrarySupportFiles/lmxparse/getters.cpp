@@ -1,9 +1,9 @@
 #include "GenLibrarySupportFiles/lmxparse/getters.h"
 
-#include <array>
 #include <cstring>
 #include <limits>
 
+#include "GenLibrarySupportFiles/lmxparse/byte_classes.h"
 #include "GenLibrarySupportFiles/lmxparse/entity_name_readers.h"
 #include "GenLibrarySupportFiles/lmxparse/limits.h"
 
@@ -11,32 +11,9 @@ namespace lmx {
 
 namespace {
 
-// What a byte may be taken as in bulk. Everything else goes through `get`, one character at a time.
-enum byte_class : unsigned char {
-  plain_blank = 1,  // white space that ends no line
-  plain_name = 2,   // an ASCII name character
-  plain_value = 4,  // inside an attribute value, once the quotes are minded
-  plain_text = 8,   // inside character data
-};
-
-constexpr std::array<unsigned char, 256> make_byte_classes() {
-  std::array<unsigned char, 256> classes{};
-  for (int c = 1; c < 127; ++c) {
-    if (c == '\n' || c == '\r') continue;
-    unsigned bits = plain_value;
-    if (is_space(c)) bits |= plain_blank;
-    if (is_name_char(c)) bits |= plain_name;
-    if (c != '<' && c != '&') bits |= plain_text;
-    classes[static_cast<std::size_t>(c)] = static_cast<unsigned char>(bits);
-  }
-  return classes;
-}
-
-constexpr auto byte_classes = make_byte_classes();
-
 unsigned char const* end_of_run(byte_window window, byte_class wanted) {
   unsigned char const* p = window.begin;
-  while (p != window.end && (byte_classes[*p] & wanted) != 0) ++p;
+  while (p != window.end && is_in_class(*p, wanted)) ++p;
   return p;
 }
 
@@ -84,6 +61,7 @@ void c_get_as_utf8::rewind() {
   m_pending_end = false;
   m_bytes_read = 0;
   mp_transcoder.reset();
+  ++m_fetches;
   mr_read.rewind();
 }
 
@@ -594,7 +572,7 @@ int c_get_for_xml::get_name_chars(std::string* out) {
 void c_get_for_xml::take_plain_value(std::string* out, int quote) {
   const byte_window window = plain_window();
   unsigned char const* p = window.begin;
-  while (p != window.end && (byte_classes[*p] & plain_value) != 0 && *p != quote) ++p;
+  while (p != window.end && is_in_class(*p, plain_value) && *p != quote) ++p;
   append(out, window.begin, p);
   consume_plain(p);
 }

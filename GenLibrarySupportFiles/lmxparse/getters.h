@@ -8,6 +8,7 @@
 #pragma once
 
 #include <deque>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -109,6 +110,18 @@ class ISOXML_API c_get_as_utf8 {
     mr_read.mp_next = up_to;
     m_last_char = ' ';  // any plain byte: what matters is that it was no CR
   }
+  /// A `plain_window` in which LF may be taken as well: one at its start is not half of a CR LF.
+  byte_window line_window() const {
+    return m_last_char == '\r' ? byte_window{nullptr, nullptr} : plain_window();
+  }
+  /// `consume_plain` for bytes that hold `line_feeds` line feeds.
+  void consume_lines(unsigned char const* up_to, int line_feeds) {
+    consume_plain(up_to);
+    m_line = line_feeds > std::numeric_limits<int>::max() - m_line ? std::numeric_limits<int>::max()
+                                                                   : m_line + line_feeds;
+  }
+  /// Changes whenever the source is asked for more than its buffer holds, which may move the buffer.
+  unsigned long long fetches() const { return m_fetches; }
 
  protected:
   bool has_fatal() const { return mr_error.has_fatal(); }
@@ -118,7 +131,9 @@ class ISOXML_API c_get_as_utf8 {
  private:
   int p_next_byte() {
     ++m_bytes_read;
-    return mr_read.mp_next != mr_read.mp_end ? *mr_read.mp_next++ : mr_read.get();
+    if (mr_read.mp_next != mr_read.mp_end) return *mr_read.mp_next++;
+    ++m_fetches;
+    return mr_read.get();
   }
   int p_get();
   int p_read_local_transcoded();
@@ -145,6 +160,7 @@ class ISOXML_API c_get_as_utf8 {
   bool m_pending_end = false;        // one -1 is to be delivered
   int m_line = 1;
   unsigned long long m_bytes_read = 0;
+  unsigned long long m_fetches = 0;
 };
 
 /// Encodes `code_point` as UTF-8 with a closing NUL; one to four bytes, no range check. Returns `out`.
@@ -192,6 +208,9 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   void unget(int c);
   byte_window plain_window() const {
     return m_active.empty() ? c_get_as_utf8::plain_window() : byte_window{nullptr, nullptr};
+  }
+  byte_window line_window() const {
+    return m_active.empty() ? c_get_as_utf8::line_window() : byte_window{nullptr, nullptr};
   }
   /// How many entities are being read as input.
   std::size_t active_entities() const { return m_active.size(); }

@@ -1,5 +1,7 @@
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"
 
+#include <cstring>
+
 #include "GenLibrarySupportFiles/lmxparse/c_xml.h"
 
 namespace lmx {
@@ -37,11 +39,12 @@ void c_enumerated_namespaces::clear() {
 }
 
 int c_xml_local::find_namespace_id(std::string const& prefix) const {
+  if (prefix.empty()) return default_namespace_id();
   if (prefix == "xml") return nsid_xml;
   for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
     if (int const* const id = scope->m_ids.find(prefix)) return *id;
   }
-  return prefix.empty() ? nsid_none : nsid_not_found;
+  return nsid_not_found;
 }
 
 // This scope's own entry.
@@ -88,20 +91,32 @@ void c_xml_local::extract_namespace_context(c_namespace_context* context, c_xml 
 
 void c_xml_local::add_namespace(char const* prefix, int id) {
   m_ids.set(prefix, id);
+  if (*prefix == '\0') m_default_id = id;
   mp_nearest = this;
 }
 
-void c_cracked_name::set(c_xml_local const* local, std::string const& name) {
-  m_name = name;
-  const std::size_t colon = name.find(':');
-  m_has_prefix = colon != std::string::npos;
+void c_cracked_name::p_take_name(std::string const& name) {
+  if (name.size() == 3 && m_name.size() == 3) {  // nearly every element
+    std::memcpy(m_name.data(), name.data(), 3);
+  } else {
+    m_name = name;
+  }
+  std::size_t colon = 0;
+  while (colon != name.size() && name[colon] != ':') ++colon;
+  m_has_prefix = colon != name.size();
   m_local_offset = m_has_prefix ? colon + 1 : 0;
-  m_id = local->find_namespace_id(m_has_prefix ? name.substr(0, colon) : std::string());
+}
+
+void c_cracked_name::set(c_xml_local const* local, std::string const& name) {
+  p_take_name(name);
+  m_id = m_has_prefix ? local->find_namespace_id(m_name.substr(0, m_local_offset - 1))
+                      : local->default_namespace_id();
 }
 
 void c_cracked_name::set_for_attribute(c_xml_local const* local, std::string const& name) {
-  set(local, name);
-  if (!m_has_prefix) m_id = nsid_none;
+  p_take_name(name);
+  m_id = m_has_prefix ? local->find_namespace_id(m_name.substr(0, m_local_offset - 1))
+                      : static_cast<int>(nsid_none);
 }
 
 }  // namespace lmx

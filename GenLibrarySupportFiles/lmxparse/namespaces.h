@@ -91,9 +91,18 @@ class ISOXML_API c_xml_local {
   void extract_namespace_context(c_namespace_context* context, c_xml const& xml) const;
   /// Binds `prefix` in this scope.
   void add_namespace(char const* prefix, int id);
+  /// The id of names without a prefix: that of the default namespace, 1 when there is none.
+  int default_namespace_id() const {
+    for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
+      if (scope->m_default_id != undeclared) return scope->m_default_id;
+    }
+    return nsid_none;
+  }
   /// Forgets this scope's own declarations.
   void clear_declarations() {
-    if (!m_ids.empty()) m_ids.clear();
+    if (m_ids.empty()) return;
+    m_ids.clear();
+    m_default_id = undeclared;
   }
 
  protected:
@@ -106,7 +115,10 @@ class ISOXML_API c_xml_local {
   }
   char const* p_find_prefix(int id) const;
 
+  static constexpr int undeclared = -1;
+
   c_repository<int> m_ids;
+  int m_default_id = undeclared;  // what `m_ids` has for the empty prefix
 };
 
 /// A name taken apart at its first colon.
@@ -127,6 +139,8 @@ class ISOXML_API c_cracked_name {
   std::size_t local_length() const { return m_name.size() - m_local_offset; }
 
  private:
+  void p_take_name(std::string const& name);
+
   std::string m_name;
   bool m_has_prefix = false;
   int m_id = nsid_none;

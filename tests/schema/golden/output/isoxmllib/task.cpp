@@ -101,6 +101,13 @@ bool Shelf::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error)
   }
   return false;
 }
+bool Shelf::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_text_8, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Levels, spec_range_1_to_9_uint8, attribute);
+  }
+  return false;
+}
 lmx::elmx_error Shelf::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "SHF", __LINE__, m_Id.is_set());
 }
@@ -160,6 +167,13 @@ bool Book::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   switch (reader.m_event) {
     case attr_Id: return read_attribute(reader, m_Id, spec_text_8, __LINE__, error);
     case attr_Kind: return read_attribute(reader, m_Kind, spec_one_of_1_2, __LINE__, error);
+  }
+  return false;
+}
+bool Book::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+  switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Id, spec_text_8, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Kind, spec_one_of_1_2, attribute);
   }
   return false;
 }
