@@ -52,6 +52,12 @@ class ISOXML_API InnerField {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `Polygon` the alternative held, with an empty run; no effect when it is already.
   void SelectPolygon();
@@ -354,6 +360,12 @@ class ISOXML_API Field {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -423,6 +435,12 @@ class ISOXML_API InnerPolygon {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `LineString` the alternative held, with an empty run; no effect when it is already.
   void SelectLineString();
@@ -562,6 +580,12 @@ class ISOXML_API Polygon {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -612,6 +636,12 @@ class ISOXML_API InnerLineString {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `Point` the alternative held, with an empty run; no effect when it is already.
   void SelectPoint();
@@ -729,6 +759,12 @@ class ISOXML_API LineString {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -852,6 +888,12 @@ class ISOXML_API Point {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -905,6 +947,12 @@ class ISOXML_API InnerGuidanceGroup {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `GuidancePattern` the alternative held, with an empty run; no effect when it is already.
   void SelectGuidancePattern();
@@ -1006,6 +1054,12 @@ class ISOXML_API GuidanceGroup {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1052,6 +1106,12 @@ class ISOXML_API InnerGuidancePattern {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `LineString` the alternative held, with no object yet; no effect when it is already.
   void SelectLineString();
@@ -1248,6 +1308,12 @@ class ISOXML_API GuidancePattern {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1307,6 +1373,12 @@ class ISOXML_API InnerGuidanceAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `AllocationStamp` the alternative held, with no object yet; no effect when it is already.
   void SelectAllocationStamp();
@@ -1396,6 +1468,12 @@ class ISOXML_API GuidanceAllocation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1439,6 +1517,12 @@ class ISOXML_API InnerGuidanceShift {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `AllocationStamp` the alternative held, with no object yet; no effect when it is already.
   void SelectAllocationStamp();
@@ -1532,6 +1616,12 @@ class ISOXML_API GuidanceShift {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1610,6 +1700,12 @@ class ISOXML_API BaseStation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];

@@ -161,6 +161,12 @@ class ISOXML_API Grower {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -335,6 +341,12 @@ class ISOXML_API Farm {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -473,6 +485,12 @@ class ISOXML_API Worker {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -527,6 +545,12 @@ class ISOXML_API InnerProduct {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `ProductRelation` the alternative held, with an empty run; no effect when it is already.
   void SelectProductRelation();
@@ -700,6 +724,12 @@ class ISOXML_API Product {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -779,6 +809,12 @@ class ISOXML_API ProductGroup {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -844,6 +880,12 @@ class ISOXML_API ProductRelation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -929,6 +971,12 @@ class ISOXML_API ValuePresentation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -976,6 +1024,12 @@ class ISOXML_API InnerCropType {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `CropVariety` the alternative held, with an empty run; no effect when it is already.
   void SelectCropVariety();
@@ -1070,6 +1124,12 @@ class ISOXML_API CropType {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1135,6 +1195,12 @@ class ISOXML_API CropVariety {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1179,6 +1245,12 @@ class ISOXML_API InnerCulturalPractice {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `OperationTechniqueReference` the alternative held, with an empty run; no effect when it is already.
   void SelectOperationTechniqueReference();
@@ -1267,6 +1339,12 @@ class ISOXML_API CulturalPractice {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1324,6 +1402,12 @@ class ISOXML_API OperationTechnique {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1374,6 +1458,12 @@ class ISOXML_API OperationTechniqueReference {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1416,6 +1506,12 @@ class ISOXML_API InnerCodedComment {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `CodedCommentListValue` the alternative held, with an empty run; no effect when it is already.
   void SelectCodedCommentListValue();
@@ -1522,6 +1618,12 @@ class ISOXML_API CodedComment {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1581,6 +1683,12 @@ class ISOXML_API CoddedCommentGroup {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1638,6 +1746,12 @@ class ISOXML_API CodedCommentListValue {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1681,6 +1795,12 @@ class ISOXML_API InnerColourLegend {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `ColourRange` the alternative held, with an empty run; no effect when it is already.
   void SelectColourRange();
@@ -1769,6 +1889,12 @@ class ISOXML_API ColourLegend {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1832,6 +1958,12 @@ class ISOXML_API ColourRange {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
