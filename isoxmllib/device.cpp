@@ -58,6 +58,8 @@ bool InnerDevice::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerDevice::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerDevice::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerDevice::SelectDeviceElement() { selected_run<DeviceElement>(chosen, m_held, DeviceElementChosen); }
 DeviceElement const& InnerDevice::GetDeviceElement(std::size_t index) const { return run_at<DeviceElement>(m_held, {is_chosen(chosen, m_held, DeviceElementChosen), "chosen == DeviceElementChosen"}, index, "index < u.mDeviceElement->size()"); }
@@ -182,6 +184,19 @@ lmx::elmx_error Device::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "DVC", __LINE__, m_Id.is_set() && m_ClientName.is_set() && m_StructureLabel.is_set() && m_LocalizationLabel.is_set());
 }
 bool Device::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerDevice, true, {elem_event_map, "DVC", __LINE__}, error); }
+lmx::elmx_error Device::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Device::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_DVC_49);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_SoftwareVersion, spec_text_32);
+  write_attribute(writer, "D", m_ClientName, spec_bytes_8);
+  write_attribute(writer, "E", m_SerialNumber, spec_text_32);
+  write_attribute(writer, "F", m_StructureLabel, spec_structure_label_50);
+  write_attribute(writer, "G", m_LocalizationLabel, spec_localization_label_51);
+}
+lmx::elmx_error Device::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerDevice);
+}
 bool Device::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_ClientName.is_set(), "D", __LINE__) &&
@@ -242,6 +257,8 @@ bool InnerDeviceElement::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return true;
 }
+lmx::elmx_error InnerDeviceElement::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerDeviceElement::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerDeviceElement::SelectDeviceObjectReference() { selected_run<DeviceObjectReference>(chosen, m_held, DeviceObjectReferenceChosen); }
 DeviceObjectReference const& InnerDeviceElement::GetDeviceObjectReference(std::size_t index) const { return run_at<DeviceObjectReference>(m_held, {is_chosen(chosen, m_held, DeviceObjectReferenceChosen), "chosen == DeviceObjectReferenceChosen"}, index, "index < u.mDeviceObjectReference->size()"); }
@@ -317,6 +334,18 @@ lmx::elmx_error DeviceElement::unmarshal_attributes_check(lmx::xmlReader& reader
   return check_required(reader, "DET", __LINE__, m_Id.is_set() && m_ObjectId.is_set() && m_Type.is_set() && m_Number.is_set() && m_ParentObjectId.is_set());
 }
 bool DeviceElement::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerDeviceElement, false, {elem_event_map, "DET", __LINE__}, error); }
+lmx::elmx_error DeviceElement::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DeviceElement::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_DET_53);
+  write_attribute(writer, "B", m_ObjectId, spec_range_1_to_65534_uint16);
+  write_attribute(writer, "C", m_Type, spec_one_of_1_to_7);
+  write_attribute(writer, "D", m_Designator, spec_text_32);
+  write_attribute(writer, "E", m_Number, spec_range_0_to_4095_uint16);
+  write_attribute(writer, "F", m_ParentObjectId, spec_range_0_to_65534_uint16);
+}
+lmx::elmx_error DeviceElement::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerDeviceElement);
+}
 bool DeviceElement::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_ObjectId.is_set(), "B", __LINE__) &&
@@ -388,6 +417,13 @@ lmx::elmx_error DeviceObjectReference::unmarshal_attributes_check(lmx::xmlReader
   return check_required(reader, "DOR", __LINE__, m_DeviceObjectId.is_set());
 }
 bool DeviceObjectReference::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error DeviceObjectReference::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DeviceObjectReference::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_DeviceObjectId, spec_range_1_to_65534_uint16);
+}
+lmx::elmx_error DeviceObjectReference::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool DeviceObjectReference::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_DeviceObjectId.is_set(), "A", __LINE__);
 }
@@ -456,6 +492,18 @@ lmx::elmx_error DeviceProcessData::unmarshal_attributes_check(lmx::xmlReader& re
   return check_required(reader, "DPD", __LINE__, m_ObjectId.is_set() && m_DDI.is_set() && m_Property.is_set() && m_TriggerMethods.is_set());
 }
 bool DeviceProcessData::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error DeviceProcessData::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DeviceProcessData::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ObjectId, spec_range_1_to_65534_uint16);
+  write_attribute(writer, "B", m_DDI, spec_bytes_2);
+  write_attribute(writer, "C", m_Property, spec_range_0_to_7_uint8);
+  write_attribute(writer, "D", m_TriggerMethods, spec_range_0_to_31_uint8);
+  write_attribute(writer, "E", m_Designator, spec_text_32);
+  write_attribute(writer, "F", m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16);
+}
+lmx::elmx_error DeviceProcessData::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool DeviceProcessData::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ObjectId.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_DDI.is_set(), "B", __LINE__) &&
@@ -524,6 +572,17 @@ lmx::elmx_error DeviceProperty::unmarshal_attributes_check(lmx::xmlReader& reade
   return check_required(reader, "DPT", __LINE__, m_ObjectId.is_set() && m_DDI.is_set() && m_Value.is_set());
 }
 bool DeviceProperty::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error DeviceProperty::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DeviceProperty::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ObjectId, spec_range_1_to_65534_uint16);
+  write_attribute(writer, "B", m_DDI, spec_bytes_2);
+  write_attribute(writer, "C", m_Value, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "D", m_Designator, spec_text_32);
+  write_attribute(writer, "E", m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16);
+}
+lmx::elmx_error DeviceProperty::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool DeviceProperty::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ObjectId.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_DDI.is_set(), "B", __LINE__) &&
@@ -591,6 +650,17 @@ lmx::elmx_error DeviceValuePresentation::unmarshal_attributes_check(lmx::xmlRead
   return check_required(reader, "DVP", __LINE__, m_ObjectId.is_set() && m_Offset.is_set() && m_Scale.is_set() && m_NumberOfDecimals.is_set());
 }
 bool DeviceValuePresentation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error DeviceValuePresentation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DeviceValuePresentation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ObjectId, spec_range_1_to_65534_uint16);
+  write_attribute(writer, "B", m_Offset, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "C", m_Scale, spec_scale_factor);
+  write_attribute(writer, "D", m_NumberOfDecimals, spec_range_0_to_7_uint8);
+  write_attribute(writer, "E", m_UnitDesignator, spec_text_32);
+}
+lmx::elmx_error DeviceValuePresentation::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool DeviceValuePresentation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ObjectId.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Offset.is_set(), "B", __LINE__) &&

@@ -72,4 +72,18 @@ bool check_occurs(lmx::c_check_tracker* tracker, bool is_there, char const* name
   return lmx::report_check_failure(&missing, code_file, line);
 }
 
+void begin_element(lmx::c_xml_writer& writer, char const* name) {
+  writer.write_start_tag(name);
+  writer.conditionally_select_ns_map(ns_map_writer_1);  // the writer maps are alike: all without entries
+  writer.conditionally_write_ns_attrs(false);
+}
+
+lmx::elmx_error write_choice(lmx::c_xml_writer& writer, lmx::ct_choice const& held, std::int32_t chosen,
+                             std::int32_t nothing_chosen, lmx::s_event_map const* tags, int line) {
+  if (chosen < 0 || chosen > nothing_chosen) {
+    return writer.report_error(lmx::ELMX_BAD_CHOICE, "{anonymous compositor}", code_file, line);
+  }
+  return held.holds(chosen) ? held.marshal(writer, tags[chosen].mp_name) : lmx::ELMX_OK;
+}
+
 }  // namespace binding

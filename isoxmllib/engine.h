@@ -1,6 +1,6 @@
-// What all element classes share: reading an attribute, an element, a run of children, one child; checking
-// what is missing; reaching into a choice. The generated classes hold names, tables and one switch for each
-// kind of dispatch, and call these functions in one line each.
+// What all element classes share: reading an attribute, an element, a run of children, one child; writing
+// them; checking what is missing; reaching into a choice. The generated classes hold names, tables and one
+// switch for each kind of dispatch, and call these functions in one line each.
 //
 // Private to the library: nothing outside isoxmllib includes it.
 #pragma once
@@ -14,7 +14,9 @@
 #include "GenLibrarySupportFiles/lmxinternals/check_tracker.h"
 #include "GenLibrarySupportFiles/lmxinternals/choice.h"
 #include "GenLibrarySupportFiles/lmxinternals/containers.h"
+#include "GenLibrarySupportFiles/lmxinternals/marshal_bridges.h"
 #include "GenLibrarySupportFiles/lmxparse/c_unmarshal_helper.h"
+#include "GenLibrarySupportFiles/lmxparse/c_xml_writer.h"
 #include "transfer/reader/xmlReader.h"
 
 namespace binding {
@@ -393,6 +395,80 @@ bool check_children(lmx::c_check_tracker* tracker, lmx::ct_complex_multi<Y> cons
 template <class W>
 bool check_wrapper(lmx::c_check_tracker* tracker, lmx::ct_complex_optional<W> const& wrapper) {
   return !wrapper.is_set() || wrapper.get().Check(tracker, nullptr);
+}
+
+// ---- Writing ----
+
+/// Begins an element, whose scope is open, up to its own attributes. The document's first element carries the
+/// namespace declarations, whichever class it is of.
+void begin_element(lmx::c_xml_writer& writer, char const* name);
+
+/// Writes an element under the tag `name`. An error in its children leaves it without an end tag.
+template <class X>
+lmx::elmx_error write_element(X const& element, lmx::c_xml_writer& writer, char const* name) {
+  lmx::c_xml_writer_local const scope(writer);
+  begin_element(writer, name);
+  element.marshal_attributes(writer);
+  lmx::elmx_error const error = element.marshal_child_elements(writer);
+  if (error == lmx::ELMX_OK) writer.write_end_tag(name);
+  return error;
+}
+
+template <class Field, class T>
+using marshal_bridge = lmx::c_marshal_bridge<lmx::c_xml_writer, Field, T, T>;
+
+/// Writes a required attribute, even if it was never set, or an optional one that is set. Not inlined: one
+/// copy for each kind of field serves all attributes, and no bridge stands in the frame of a class.
+template <class Field, class T>
+[[gnu::noinline]] void write_attribute(lmx::c_xml_writer& writer, char const* name, Field const& field,
+                                       lmx::c_validation_spec<T> const& spec) {
+  marshal_bridge<Field, T> bridge(writer, spec, field);
+  writer.marshal_attribute_impl(name, bridge);
+}
+
+/// Writes one child for each value of the field; a required one has a value even if it was never set.
+template <class Field, class T>
+void write_simple_child(lmx::c_xml_writer& writer, char const* name, Field const& field,
+                        lmx::c_validation_spec<T> const& spec) {
+  marshal_bridge<Field, T> bridge(writer, spec, field);
+  writer.marshal_element_impl(name, bridge, nullptr);
+}
+
+/// Writes the text of the element at hand.
+template <class Field, class T>
+void write_text(lmx::c_xml_writer& writer, Field const& field, lmx::c_validation_spec<T> const& spec) {
+  marshal_bridge<Field, T> bridge(writer, spec, field);
+  writer.marshal_element_body_impl(nullptr, bridge);
+}
+
+/// Writes what a choice holds under the tag that `tags` has for it: row by row the alternatives, then the
+/// end. Nothing is written for `nothing_chosen`, the number of alternatives; any other number is error 7.
+lmx::elmx_error write_choice(lmx::c_xml_writer& writer, lmx::ct_choice const& held, std::int32_t chosen,
+                             std::int32_t nothing_chosen, lmx::s_event_map const* tags, int line);
+
+/// Writes each wrapper's children.
+template <class W>
+lmx::elmx_error write_wrappers(lmx::c_xml_writer& writer, lmx::ct_complex_multi<W> const& wrappers) {
+  for (std::size_t i = 0; i != wrappers.size(); ++i) {
+    lmx::elmx_error const error = wrappers.get(i).marshal_child_elements(writer);
+    if (error != lmx::ELMX_OK) return error;
+  }
+  return lmx::ELMX_OK;
+}
+
+template <class W>
+lmx::elmx_error write_wrapper(lmx::c_xml_writer& writer, lmx::ct_complex_optional<W> const& wrapper) {
+  return wrapper.is_set() ? wrapper.get().marshal_child_elements(writer) : lmx::ELMX_OK;
+}
+
+/// Writes each child of a class whose children are one run without a wrapper.
+template <class Y>
+lmx::elmx_error write_list(lmx::c_xml_writer& writer, lmx::ct_complex_multi<Y> const& list, char const* tag) {
+  for (std::size_t i = 0; i != list.size(); ++i) {
+    lmx::elmx_error const error = list.get(i).marshal(writer, tag);
+    if (error != lmx::ELMX_OK) return error;
+  }
+  return lmx::ELMX_OK;
 }
 
 }  // namespace binding

@@ -59,6 +59,8 @@ bool InnerField::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerField::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerField::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerField::SelectPolygon() { selected_run<Polygon>(chosen, m_held, PolygonChosen); }
 Polygon const& InnerField::GetPolygon(std::size_t index) const { return run_at<Polygon>(m_held, {is_chosen(chosen, m_held, PolygonChosen), "chosen == PolygonChosen"}, index, "index < u.mPolygon->size()"); }
@@ -227,6 +229,39 @@ lmx::elmx_error Field::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PFD", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_Area.is_set());
 }
 bool Field::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerField, false, {elem_event_map, "PFD", __LINE__}, error); }
+lmx::elmx_error Field::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Field::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_PFD_74);
+  write_attribute(writer, "B", m_FieldCode, spec_text_32);
+  write_attribute(writer, "C", m_Designator, spec_text_32);
+  write_attribute(writer, "D", m_Area, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "E", m_GrowerIdRef, spec_id_CTR_75);
+  write_attribute(writer, "F", m_FarmIdRef, spec_id_FRM_76);
+  write_attribute(writer, "G", m_CropTypeIdRef, spec_id_CTP_77);
+  write_attribute(writer, "H", m_CropVarietyIdRef, spec_id_CVT_78);
+  write_attribute(writer, "I", m_FieldIdRef, spec_id_PFD_79);
+  write_attribute(writer, "P917_firstName", m_P917FirstName, spec_text_32);
+  write_attribute(writer, "P917_middleName", m_MiddleName, spec_any_text);
+  write_attribute(writer, "P917_lastName", m_P917LastName, spec_text_32);
+  write_attribute(writer, "P917_phoneNumber", m_P917PhoneNumber, spec_text_32);
+  write_attribute(writer, "P917_mobileNumber", m_P917MobileNumber, spec_text_32);
+  write_attribute(writer, "P917_faxNumber", m_P917FaxNumber, spec_text_32);
+  write_attribute(writer, "P917_Email", m_P917Email, spec_text_64);
+  write_attribute(writer, "P917_street", m_P917Street, spec_text_32);
+  write_attribute(writer, "P917_poBox", m_P917PoBox, spec_text_32);
+  write_attribute(writer, "P917_postalCode", m_P917PostalCode, spec_text_10);
+  write_attribute(writer, "P917_city", m_P917City, spec_text_32);
+  write_attribute(writer, "P917_state", m_State, spec_text_32);
+  write_attribute(writer, "P917_country", m_P917Country, spec_text_32);
+  write_attribute(writer, "P917_section", m_Section, spec_text_32);
+  write_attribute(writer, "P917_township", m_Township, spec_text_32);
+  write_attribute(writer, "P917_county", m_County, spec_text_32);
+  write_attribute(writer, "P917_comment", m_Comment, spec_text_330);
+  write_attribute(writer, "P917_crop", m_Crop, spec_text_32);
+}
+lmx::elmx_error Field::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerField);
+}
 bool Field::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "C", __LINE__) &&
@@ -285,6 +320,8 @@ bool InnerPolygon::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return report(reader, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, {elem_event_map, "PLN", __LINE__}, error);
 }
+lmx::elmx_error InnerPolygon::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerPolygon::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerPolygon::SelectLineString() { selected_run<LineString>(chosen, m_held, LineStringChosen); }
 LineString const& InnerPolygon::GetLineString(std::size_t index) const { return run_at<LineString>(m_held, {is_chosen(chosen, m_held, LineStringChosen), "chosen == LineStringChosen"}, index, "index < u.mLineString->size()"); }
@@ -363,6 +400,20 @@ lmx::elmx_error Polygon::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PLN", __LINE__, m_Type.is_set());
 }
 bool Polygon::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerPolygon, true, {elem_event_map, "PLN", __LINE__}, error); }
+lmx::elmx_error Polygon::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Polygon::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Type, spec_one_of_1_to_12);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Area, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "D", m_Colour, spec_range_0_to_254_uint8);
+  write_attribute(writer, "E", m_Id, spec_id_PLN_82);
+  write_attribute(writer, "P007_PolygonMetaData", m_rare.get().m_P007PolygonMetaData, spec_any_text);
+  write_attribute(writer, "P917_SprayProperty", m_rare.get().m_P917SprayProperty, spec_one_of_1_2);
+  write_attribute(writer, "P917_PlantProperty", m_rare.get().m_P917PlantProperty, spec_one_of_1_2);
+}
+lmx::elmx_error Polygon::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerPolygon);
+}
 bool Polygon::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Type.is_set(), "A", __LINE__) &&
          check_occurs(tracker, !mInnerPolygon.empty(), "LSG", __LINE__);
@@ -426,6 +477,8 @@ bool InnerLineString::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return report(reader, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, {elem_event_map, "LSG", __LINE__}, error);
 }
+lmx::elmx_error InnerLineString::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerLineString::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerLineString::SelectPoint() { selected_run<Point>(chosen, m_held, PointChosen); }
 Point const& InnerLineString::GetPoint(std::size_t index) const { return run_at<Point>(m_held, {is_chosen(chosen, m_held, PointChosen), "chosen == PointChosen"}, index, "index < u.mPoint->size()"); }
@@ -501,6 +554,18 @@ lmx::elmx_error LineString::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "LSG", __LINE__, m_Type.is_set());
 }
 bool LineString::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerLineString, true, {elem_event_map, "LSG", __LINE__}, error); }
+lmx::elmx_error LineString::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void LineString::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Type, spec_one_of_1_to_9);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Width, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "D", m_Length, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "E", m_Colour, spec_range_0_to_254_uint8);
+  write_attribute(writer, "F", m_Id, spec_id_LSG_69);
+}
+lmx::elmx_error LineString::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerLineString);
+}
 bool LineString::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Type.is_set(), "A", __LINE__) &&
          check_occurs(tracker, !mInnerLineString.empty(), "PNT", __LINE__);
@@ -599,6 +664,23 @@ lmx::elmx_error Point::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PNT", __LINE__, m_Type.is_set() && m_North.is_set() && m_East.is_set());
 }
 bool Point::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Point::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Point::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Type, spec_one_of_1_to_11);
+  write_attribute(writer, "B", m_rare.get().m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_North, spec_degrees_latitude);
+  write_attribute(writer, "D", m_East, spec_degrees_longitude);
+  write_attribute(writer, "E", m_rare.get().m_Altitude, spec_range_minus_2147483647_to_2147483647_int32);
+  write_attribute(writer, "F", m_rare.get().m_Colour, spec_range_0_to_254_uint8);
+  write_attribute(writer, "G", m_rare.get().m_Id, spec_id_PNT_80);
+  write_attribute(writer, "H", m_rare.get().m_HorizontalAccuracy, spec_accuracy);
+  write_attribute(writer, "I", m_rare.get().m_VerticalAccuracy, spec_accuracy);
+  write_attribute(writer, "J", m_rare.get().m_Filename, spec_point_file_81);
+  write_attribute(writer, "K", m_rare.get().m_FileLength, spec_range_0_to_4294967294_uint32);
+}
+lmx::elmx_error Point::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Point::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Type.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_North.is_set(), "C", __LINE__) &&
@@ -650,6 +732,8 @@ bool InnerGuidanceGroup::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return true;
 }
+lmx::elmx_error InnerGuidanceGroup::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerGuidanceGroup::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerGuidanceGroup::SelectGuidancePattern() { selected_run<GuidancePattern>(chosen, m_held, GuidancePatternChosen); }
 GuidancePattern const& InnerGuidanceGroup::GetGuidancePattern(std::size_t index) const { return run_at<GuidancePattern>(m_held, {is_chosen(chosen, m_held, GuidancePatternChosen), "chosen == GuidancePatternChosen"}, index, "index < u.mGuidancePattern->size()"); }
@@ -721,6 +805,15 @@ lmx::elmx_error GuidanceGroup::unmarshal_attributes_check(lmx::xmlReader& reader
   return check_required(reader, "GGP", __LINE__, m_Id.is_set());
 }
 bool GuidanceGroup::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerGuidanceGroup, true, {elem_event_map, "GGP", __LINE__}, error); }
+lmx::elmx_error GuidanceGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void GuidanceGroup::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_GGP_64);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "P007_GuidanceGroupMetaData", m_P007GuidanceGroupMetaData, spec_any_text);
+}
+lmx::elmx_error GuidanceGroup::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerGuidanceGroup);
+}
 bool GuidanceGroup::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, !mInnerGuidanceGroup.empty(), "GPN", __LINE__);
@@ -781,6 +874,8 @@ bool InnerGuidancePattern::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* er
   }
   return true;
 }
+lmx::elmx_error InnerGuidancePattern::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerGuidancePattern::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerGuidancePattern::SelectLineString() { selected_one<LineString>(chosen, m_held, LineStringChosen); }
 LineString const& InnerGuidancePattern::GetLineString() const { return chosen_one<LineString>(m_held, {is_chosen(chosen, m_held, LineStringChosen), "chosen == LineStringChosen"}); }
@@ -881,6 +976,28 @@ lmx::elmx_error GuidancePattern::unmarshal_attributes_check(lmx::xmlReader& read
   return check_required(reader, "GPN", __LINE__, m_Id.is_set() && m_Type.is_set());
 }
 bool GuidancePattern::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerGuidancePattern, true, {elem_event_map, "GPN", __LINE__}, error); }
+lmx::elmx_error GuidancePattern::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void GuidancePattern::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_GPN_65);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Type, spec_one_of_1_to_5);
+  write_attribute(writer, "D", m_Options, spec_one_of_1_to_3);
+  write_attribute(writer, "E", m_PropagationDirection, spec_one_of_1_to_4);
+  write_attribute(writer, "F", m_Extension, spec_one_of_1_to_4);
+  write_attribute(writer, "G", m_Heading, spec_degrees_heading);
+  write_attribute(writer, "H", m_Radius, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "I", m_GNSSMethod, spec_one_of_0_to_8_16_17);
+  write_attribute(writer, "J", m_HorizontalAccuracy, spec_accuracy);
+  write_attribute(writer, "K", m_VerticalAccuracy, spec_accuracy);
+  write_attribute(writer, "L", m_BaseStationIdRef, spec_id_BSN_66);
+  write_attribute(writer, "M", m_OriginalSRID, spec_text_32);
+  write_attribute(writer, "N", m_NumberOfSwathsLeft, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "O", m_NumberOfSwathsRight, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "P007_GuidanceMetaData", m_P007GuidanceMetaData, spec_any_text);
+}
+lmx::elmx_error GuidancePattern::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerGuidancePattern);
+}
 bool GuidancePattern::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Type.is_set(), "C", __LINE__) &&
@@ -952,6 +1069,8 @@ bool InnerGuidanceAllocation::unmarshal(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return true;
 }
+lmx::elmx_error InnerGuidanceAllocation::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerGuidanceAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerGuidanceAllocation::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerGuidanceAllocation::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1018,6 +1137,13 @@ lmx::elmx_error GuidanceAllocation::unmarshal_attributes_check(lmx::xmlReader& r
   return check_required(reader, "GAN", __LINE__, m_GuidanceGroupIdRef.is_set());
 }
 bool GuidanceAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerGuidanceAllocation, true, {elem_event_map, "GAN", __LINE__}, error); }
+lmx::elmx_error GuidanceAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void GuidanceAllocation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_GuidanceGroupIdRef, spec_id_GGP_63);
+}
+lmx::elmx_error GuidanceAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerGuidanceAllocation);
+}
 bool GuidanceAllocation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_GuidanceGroupIdRef.is_set(), "A", __LINE__) &&
          check_occurs(tracker, !mInnerGuidanceAllocation.empty(), "ASP", __LINE__);
@@ -1075,6 +1201,8 @@ bool InnerGuidanceShift::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return true;
 }
+lmx::elmx_error InnerGuidanceShift::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerGuidanceShift::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerGuidanceShift::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerGuidanceShift::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1137,6 +1265,17 @@ lmx::elmx_error GuidanceShift::unmarshal_attributes_check(lmx::xmlReader& reader
   return check_required(reader, "GST", __LINE__, m_GuidanceGroupIdRef.is_set() && m_GuidancePatternIdRef.is_set());
 }
 bool GuidanceShift::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerGuidanceShift, {elem_event_map, "GST", __LINE__}, error); }
+lmx::elmx_error GuidanceShift::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void GuidanceShift::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_GuidanceGroupIdRef, spec_id_GGP_67);
+  write_attribute(writer, "B", m_GuidancePatternIdRef, spec_id_GPN_68);
+  write_attribute(writer, "C", m_EastShift, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "D", m_NorthShift, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "E", m_PropagationOffset, spec_range_minus_2147483648_to_2147483647_int32);
+}
+lmx::elmx_error GuidanceShift::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerGuidanceShift);
+}
 bool GuidanceShift::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_GuidanceGroupIdRef.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_GuidancePatternIdRef.is_set(), "B", __LINE__);
@@ -1209,6 +1348,17 @@ lmx::elmx_error BaseStation::unmarshal_attributes_check(lmx::xmlReader& reader) 
   return check_required(reader, "BSN", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_North.is_set() && m_East.is_set() && m_Altitude.is_set());
 }
 bool BaseStation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error BaseStation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void BaseStation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_BSN_14);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_North, spec_degrees_latitude);
+  write_attribute(writer, "D", m_East, spec_degrees_longitude);
+  write_attribute(writer, "E", m_Altitude, spec_range_minus_2147483647_to_2147483647_int32);
+}
+lmx::elmx_error BaseStation::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool BaseStation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__) &&

@@ -52,6 +52,12 @@ class ISOXML_API InnerField {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `Polygon` the alternative held, with an empty run; no effect when it is already.
   void SelectPolygon();
@@ -356,6 +362,12 @@ class ISOXML_API Field {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -425,6 +437,12 @@ class ISOXML_API InnerPolygon {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `LineString` the alternative held, with an empty run; no effect when it is already.
   void SelectLineString();
@@ -566,6 +584,12 @@ class ISOXML_API Polygon {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -619,6 +643,12 @@ class ISOXML_API InnerLineString {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `Point` the alternative held, with an empty run; no effect when it is already.
   void SelectPoint();
@@ -738,6 +768,12 @@ class ISOXML_API LineString {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -863,6 +899,12 @@ class ISOXML_API Point {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -919,6 +961,12 @@ class ISOXML_API InnerGuidanceGroup {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `GuidancePattern` the alternative held, with an empty run; no effect when it is already.
   void SelectGuidancePattern();
@@ -1022,6 +1070,12 @@ class ISOXML_API GuidanceGroup {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1068,6 +1122,12 @@ class ISOXML_API InnerGuidancePattern {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `LineString` the alternative held, with no object yet; no effect when it is already.
   void SelectLineString();
@@ -1266,6 +1326,12 @@ class ISOXML_API GuidancePattern {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1325,6 +1391,12 @@ class ISOXML_API InnerGuidanceAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `AllocationStamp` the alternative held, with no object yet; no effect when it is already.
   void SelectAllocationStamp();
@@ -1416,6 +1488,12 @@ class ISOXML_API GuidanceAllocation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1459,6 +1537,12 @@ class ISOXML_API InnerGuidanceShift {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `AllocationStamp` the alternative held, with no object yet; no effect when it is already.
   void SelectAllocationStamp();
@@ -1554,6 +1638,12 @@ class ISOXML_API GuidanceShift {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1634,6 +1724,12 @@ class ISOXML_API BaseStation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];

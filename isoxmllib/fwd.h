@@ -5,6 +5,7 @@
 #pragma once
 
 namespace lmx {
+class c_xml_writer;
 class xmlReader;
 }
 

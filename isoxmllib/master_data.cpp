@@ -104,6 +104,30 @@ lmx::elmx_error Grower::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CTR", __LINE__, m_Id.is_set() && m_LastName.is_set());
 }
 bool Grower::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Grower::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Grower::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CTR_36);
+  write_attribute(writer, "B", m_LastName, spec_text_32);
+  write_attribute(writer, "C", m_FirstName, spec_text_32);
+  write_attribute(writer, "D", m_Street, spec_text_32);
+  write_attribute(writer, "E", m_POBox, spec_text_32);
+  write_attribute(writer, "F", m_PostalCode, spec_text_10);
+  write_attribute(writer, "G", m_City, spec_text_32);
+  write_attribute(writer, "H", m_State, spec_text_32);
+  write_attribute(writer, "I", m_Country, spec_text_32);
+  write_attribute(writer, "J", m_Phone, spec_text_20);
+  write_attribute(writer, "K", m_Mobile, spec_text_20);
+  write_attribute(writer, "L", m_Fax, spec_text_20);
+  write_attribute(writer, "M", m_Email, spec_text_64);
+  write_attribute(writer, "P917_customerNumber", m_CustomerNumber, spec_text_32);
+  write_attribute(writer, "P917_middleName", m_MiddleName, spec_text_32);
+  write_attribute(writer, "P917_comment", m_Comment, spec_text_330);
+  write_attribute(writer, "P917_county", m_County, spec_text_32);
+  write_attribute(writer, "P917_displayName", m_DisplayName, spec_text_32);
+}
+lmx::elmx_error Grower::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Grower::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_LastName.is_set(), "B", __LINE__);
@@ -200,6 +224,30 @@ lmx::elmx_error Farm::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "FRM", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool Farm::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Farm::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Farm::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_FRM_58);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Street, spec_text_32);
+  write_attribute(writer, "D", m_POBox, spec_text_32);
+  write_attribute(writer, "E", m_PostalCode, spec_text_10);
+  write_attribute(writer, "F", m_City, spec_text_32);
+  write_attribute(writer, "G", m_State, spec_text_32);
+  write_attribute(writer, "H", m_Country, spec_text_32);
+  write_attribute(writer, "I", m_GrowerIdRef, spec_id_CTR_59);
+  write_attribute(writer, "P917_county", m_County, spec_text_32);
+  write_attribute(writer, "P917_firstName", m_FirstName, spec_text_32);
+  write_attribute(writer, "P917_middleName", m_MiddleName, spec_any_text);
+  write_attribute(writer, "P917_lastName", m_LastName, spec_text_32);
+  write_attribute(writer, "P917_phoneNumber", m_Phone, spec_text_32);
+  write_attribute(writer, "P917_mobileNumber", m_Mobile, spec_text_32);
+  write_attribute(writer, "P917_faxNumber", m_Fax, spec_text_32);
+  write_attribute(writer, "P917_Email", m_Email, spec_text_64);
+  write_attribute(writer, "P917_comment", m_Comment, spec_text_330);
+}
+lmx::elmx_error Farm::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Farm::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -290,6 +338,25 @@ lmx::elmx_error Worker::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "WKR", __LINE__, m_Id.is_set() && m_LastName.is_set());
 }
 bool Worker::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Worker::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Worker::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_WKR_106);
+  write_attribute(writer, "B", m_LastName, spec_text_32);
+  write_attribute(writer, "C", m_FirstName, spec_text_32);
+  write_attribute(writer, "D", m_Street, spec_text_32);
+  write_attribute(writer, "E", m_POBox, spec_text_32);
+  write_attribute(writer, "F", m_PostalCode, spec_text_10);
+  write_attribute(writer, "G", m_City, spec_text_32);
+  write_attribute(writer, "H", m_State, spec_text_32);
+  write_attribute(writer, "I", m_Country, spec_text_32);
+  write_attribute(writer, "J", m_Phone, spec_text_20);
+  write_attribute(writer, "K", m_Mobile, spec_text_20);
+  write_attribute(writer, "L", m_LicenseNumber, spec_text_32);
+  write_attribute(writer, "M", m_Email, spec_text_64);
+}
+lmx::elmx_error Worker::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Worker::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_LastName.is_set(), "B", __LINE__);
@@ -335,6 +402,8 @@ bool InnerProduct::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerProduct::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerProduct::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerProduct::SelectProductRelation() { selected_run<ProductRelation>(chosen, m_held, ProductRelationChosen); }
 ProductRelation const& InnerProduct::GetProductRelation(std::size_t index) const { return run_at<ProductRelation>(m_held, {is_chosen(chosen, m_held, ProductRelationChosen), "chosen == ProductRelationChosen"}, index, "index < u.mProductRelation->size()"); }
@@ -430,6 +499,26 @@ lmx::elmx_error Product::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PDT", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool Product::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerProduct, false, {elem_event_map, "PDT", __LINE__}, error); }
+lmx::elmx_error Product::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Product::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_PDT_87);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_ProductGroupIdRef, spec_id_PGP_88);
+  write_attribute(writer, "D", m_ValuePresentationIdRef, spec_id_VPN_89);
+  write_attribute(writer, "E", m_QuantityDDI, spec_bytes_2);
+  write_attribute(writer, "F", m_Type, spec_one_of_1_to_3);
+  write_attribute(writer, "G", m_MixtureRecipeQuantity, spec_range_0_to_2147483647_uint32);
+  write_attribute(writer, "H", m_DensityMassPerVolume, spec_range_0_to_2147483647_uint32);
+  write_attribute(writer, "I", m_DensityMassPerCount, spec_range_0_to_2147483647_uint32);
+  write_attribute(writer, "J", m_DensityVolumePerCount, spec_range_0_to_2147483647_uint32);
+  write_attribute(writer, "P917_ingredientManufacturer", m_P917IngredientManufacturer, spec_text_32);
+  write_attribute(writer, "P917_ingredientRegistration", m_P917IngredientRegistration, spec_text_32);
+  write_attribute(writer, "P917_ingredientComposition", m_P917IngredientComposition, spec_text_330);
+  write_attribute(writer, "P917_ingredientNotes", m_P917IngredientNotes, spec_text_330);
+}
+lmx::elmx_error Product::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerProduct);
+}
 bool Product::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -504,6 +593,15 @@ lmx::elmx_error ProductGroup::unmarshal_attributes_check(lmx::xmlReader& reader)
   return check_required(reader, "PGP", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool ProductGroup::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error ProductGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ProductGroup::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_PGP_95);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Type, spec_one_of_1_2);
+}
+lmx::elmx_error ProductGroup::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool ProductGroup::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -565,6 +663,15 @@ lmx::elmx_error ProductRelation::unmarshal_attributes_check(lmx::xmlReader& read
   return check_required(reader, "PRN", __LINE__, m_ProductIdRef.is_set() && m_QuantityValue.is_set());
 }
 bool ProductRelation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error ProductRelation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ProductRelation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ProductIdRef, spec_id_PDT_96);
+  write_attribute(writer, "B", m_QuantityValue, spec_range_0_to_2147483647_uint32);
+  write_attribute(writer, "P917_vpn", m_P917Vpn, spec_id_VPN_97);
+}
+lmx::elmx_error ProductRelation::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool ProductRelation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ProductIdRef.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_QuantityValue.is_set(), "B", __LINE__);
@@ -634,6 +741,18 @@ lmx::elmx_error ValuePresentation::unmarshal_attributes_check(lmx::xmlReader& re
   return check_required(reader, "VPN", __LINE__, m_Id.is_set() && m_Offset.is_set() && m_Scale.is_set() && m_NumberOfDecimals.is_set());
 }
 bool ValuePresentation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error ValuePresentation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ValuePresentation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_VPN_104);
+  write_attribute(writer, "B", m_Offset, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "C", m_Scale, spec_scale_factor);
+  write_attribute(writer, "D", m_NumberOfDecimals, spec_range_0_to_7_uint8);
+  write_attribute(writer, "E", m_UnitDesignator, spec_text_32);
+  write_attribute(writer, "F", m_ColourLegendIdRef, spec_id_CLD_105);
+}
+lmx::elmx_error ValuePresentation::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool ValuePresentation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Offset.is_set(), "B", __LINE__) &&
@@ -681,6 +800,8 @@ bool InnerCropType::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerCropType::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerCropType::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerCropType::SelectCropVariety() { selected_run<CropVariety>(chosen, m_held, CropVarietyChosen); }
 CropVariety const& InnerCropType::GetCropVariety(std::size_t index) const { return run_at<CropVariety>(m_held, {is_chosen(chosen, m_held, CropVarietyChosen), "chosen == CropVarietyChosen"}, index, "index < u.mCropVariety->size()"); }
@@ -747,6 +868,15 @@ lmx::elmx_error CropType::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CTP", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool CropType::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerCropType, false, {elem_event_map, "CTP", __LINE__}, error); }
+lmx::elmx_error CropType::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CropType::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CTP_31);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_ProductGroupIdRef, spec_id_PGP_32);
+}
+lmx::elmx_error CropType::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerCropType);
+}
 bool CropType::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -819,6 +949,15 @@ lmx::elmx_error CropVariety::unmarshal_attributes_check(lmx::xmlReader& reader) 
   return check_required(reader, "CVT", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool CropVariety::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error CropVariety::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CropVariety::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CVT_33);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_ProductIdRef, spec_id_PDT_34);
+}
+lmx::elmx_error CropVariety::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool CropVariety::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -864,6 +1003,8 @@ bool InnerCulturalPractice::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return true;
 }
+lmx::elmx_error InnerCulturalPractice::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerCulturalPractice::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerCulturalPractice::SelectOperationTechniqueReference() { selected_run<OperationTechniqueReference>(chosen, m_held, OperationTechniqueReferenceChosen); }
 OperationTechniqueReference const& InnerCulturalPractice::GetOperationTechniqueReference(std::size_t index) const { return run_at<OperationTechniqueReference>(m_held, {is_chosen(chosen, m_held, OperationTechniqueReferenceChosen), "chosen == OperationTechniqueReferenceChosen"}, index, "index < u.mOperationTechniqueReference->size()"); }
@@ -927,6 +1068,14 @@ lmx::elmx_error CulturalPractice::unmarshal_attributes_check(lmx::xmlReader& rea
   return check_required(reader, "CPC", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool CulturalPractice::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerCulturalPractice, false, {elem_event_map, "CPC", __LINE__}, error); }
+lmx::elmx_error CulturalPractice::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CulturalPractice::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CPC_35);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+}
+lmx::elmx_error CulturalPractice::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerCulturalPractice);
+}
 bool CulturalPractice::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -996,6 +1145,14 @@ lmx::elmx_error OperationTechnique::unmarshal_attributes_check(lmx::xmlReader& r
   return check_required(reader, "OTQ", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool OperationTechnique::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error OperationTechnique::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void OperationTechnique::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_OTQ_70);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+}
+lmx::elmx_error OperationTechnique::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool OperationTechnique::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -1050,6 +1207,13 @@ lmx::elmx_error OperationTechniqueReference::unmarshal_attributes_check(lmx::xml
   return check_required(reader, "OTR", __LINE__, m_OperationTechniqueIdRef.is_set());
 }
 bool OperationTechniqueReference::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error OperationTechniqueReference::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void OperationTechniqueReference::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_OperationTechniqueIdRef, spec_id_OTQ_71);
+}
+lmx::elmx_error OperationTechniqueReference::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool OperationTechniqueReference::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_OperationTechniqueIdRef.is_set(), "A", __LINE__);
 }
@@ -1094,6 +1258,8 @@ bool InnerCodedComment::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return true;
 }
+lmx::elmx_error InnerCodedComment::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerCodedComment::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerCodedComment::SelectCodedCommentListValue() { selected_run<CodedCommentListValue>(chosen, m_held, CodedCommentListValueChosen); }
 CodedCommentListValue const& InnerCodedComment::GetCodedCommentListValue(std::size_t index) const { return run_at<CodedCommentListValue>(m_held, {is_chosen(chosen, m_held, CodedCommentListValueChosen), "chosen == CodedCommentListValueChosen"}, index, "index < u.mCodedCommentListValue->size()"); }
@@ -1163,6 +1329,16 @@ lmx::elmx_error CodedComment::unmarshal_attributes_check(lmx::xmlReader& reader)
   return check_required(reader, "CCT", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_Scope.is_set());
 }
 bool CodedComment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerCodedComment, false, {elem_event_map, "CCT", __LINE__}, error); }
+lmx::elmx_error CodedComment::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CodedComment::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CCT_17);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Scope, spec_one_of_1_to_3);
+  write_attribute(writer, "D", m_CodedCommentGroupIdRef, spec_id_CCG_18);
+}
+lmx::elmx_error CodedComment::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerCodedComment);
+}
 bool CodedComment::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__) &&
@@ -1235,6 +1411,14 @@ lmx::elmx_error CoddedCommentGroup::unmarshal_attributes_check(lmx::xmlReader& r
   return check_required(reader, "CCG", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool CoddedCommentGroup::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error CoddedCommentGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CoddedCommentGroup::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CCG_19);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+}
+lmx::elmx_error CoddedCommentGroup::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool CoddedCommentGroup::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -1292,6 +1476,14 @@ lmx::elmx_error CodedCommentListValue::unmarshal_attributes_check(lmx::xmlReader
   return check_required(reader, "CCL", __LINE__, m_Id.is_set() && m_Designator.is_set());
 }
 bool CodedCommentListValue::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error CodedCommentListValue::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CodedCommentListValue::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CCL_20);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+}
+lmx::elmx_error CodedCommentListValue::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool CodedCommentListValue::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__);
@@ -1337,6 +1529,8 @@ bool InnerColourLegend::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return report(reader, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, {elem_event_map, "CLD", __LINE__}, error);
 }
+lmx::elmx_error InnerColourLegend::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerColourLegend::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerColourLegend::SelectColourRange() { selected_run<ColourRange>(chosen, m_held, ColourRangeChosen); }
 ColourRange const& InnerColourLegend::GetColourRange(std::size_t index) const { return run_at<ColourRange>(m_held, {is_chosen(chosen, m_held, ColourRangeChosen), "chosen == ColourRangeChosen"}, index, "index < u.mColourRange->size()"); }
@@ -1400,6 +1594,14 @@ lmx::elmx_error ColourLegend::unmarshal_attributes_check(lmx::xmlReader& reader)
   return check_required(reader, "CLD", __LINE__, m_Id.is_set());
 }
 bool ColourLegend::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerColourLegend, true, {elem_event_map, "CLD", __LINE__}, error); }
+lmx::elmx_error ColourLegend::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ColourLegend::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_CLD_21);
+  write_attribute(writer, "B", m_DefaultColour, spec_range_0_to_254_uint8);
+}
+lmx::elmx_error ColourLegend::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerColourLegend);
+}
 bool ColourLegend::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, !mInnerColourLegend.empty(), "CRG", __LINE__);
@@ -1472,6 +1674,15 @@ lmx::elmx_error ColourRange::unmarshal_attributes_check(lmx::xmlReader& reader) 
   return check_required(reader, "CRG", __LINE__, m_MinimumValue.is_set() && m_MaximumValue.is_set() && m_Colour.is_set());
 }
 bool ColourRange::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error ColourRange::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ColourRange::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_MinimumValue, spec_range_minus_2147483647_to_2147483647_int32);
+  write_attribute(writer, "B", m_MaximumValue, spec_range_minus_2147483647_to_2147483647_int32);
+  write_attribute(writer, "C", m_Colour, spec_range_0_to_254_uint8);
+}
+lmx::elmx_error ColourRange::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool ColourRange::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_MinimumValue.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_MaximumValue.is_set(), "B", __LINE__) &&

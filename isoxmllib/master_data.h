@@ -163,6 +163,12 @@ class ISOXML_API Grower {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -339,6 +345,12 @@ class ISOXML_API Farm {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -479,6 +491,12 @@ class ISOXML_API Worker {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -533,6 +551,12 @@ class ISOXML_API InnerProduct {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `ProductRelation` the alternative held, with an empty run; no effect when it is already.
   void SelectProductRelation();
@@ -708,6 +732,12 @@ class ISOXML_API Product {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -789,6 +819,12 @@ class ISOXML_API ProductGroup {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -856,6 +892,12 @@ class ISOXML_API ProductRelation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -943,6 +985,12 @@ class ISOXML_API ValuePresentation {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -990,6 +1038,12 @@ class ISOXML_API InnerCropType {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `CropVariety` the alternative held, with an empty run; no effect when it is already.
   void SelectCropVariety();
@@ -1086,6 +1140,12 @@ class ISOXML_API CropType {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1153,6 +1213,12 @@ class ISOXML_API CropVariety {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1197,6 +1263,12 @@ class ISOXML_API InnerCulturalPractice {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `OperationTechniqueReference` the alternative held, with an empty run; no effect when it is already.
   void SelectOperationTechniqueReference();
@@ -1287,6 +1359,12 @@ class ISOXML_API CulturalPractice {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1346,6 +1424,12 @@ class ISOXML_API OperationTechnique {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1398,6 +1482,12 @@ class ISOXML_API OperationTechniqueReference {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1440,6 +1530,12 @@ class ISOXML_API InnerCodedComment {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `CodedCommentListValue` the alternative held, with an empty run; no effect when it is already.
   void SelectCodedCommentListValue();
@@ -1548,6 +1644,12 @@ class ISOXML_API CodedComment {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1609,6 +1711,12 @@ class ISOXML_API CoddedCommentGroup {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1668,6 +1776,12 @@ class ISOXML_API CodedCommentListValue {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1711,6 +1825,12 @@ class ISOXML_API InnerColourLegend {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `ColourRange` the alternative held, with an empty run; no effect when it is already.
   void SelectColourRange();
@@ -1801,6 +1921,12 @@ class ISOXML_API ColourLegend {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -1866,6 +1992,12 @@ class ISOXML_API ColourRange {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];

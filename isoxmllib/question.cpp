@@ -46,6 +46,12 @@ bool P917Questions::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { re
 bool P917Questions::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error P917Questions::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool P917Questions::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_list(reader, mP917Question, elem_P917Question, {elem_event_map, "P917_Questions", __LINE__}, error); }
+lmx::elmx_error P917Questions::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void P917Questions::marshal_attributes(lmx::c_xml_writer&) const {
+}
+lmx::elmx_error P917Questions::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_list(writer, mP917Question, "P917_Question");
+}
 bool P917Questions::IsOccursOk(lmx::c_check_tracker*) const {
   return true;
 }
@@ -121,6 +127,18 @@ bool P917Question::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error
          read_optional_child(reader, m_Reply, spec_any_text, elem_Reply, {elem_event_map, "P917_Question", __LINE__}, error) &&
          read_repeated_child(reader, m_Option, spec_any_text, elem_Option, {elem_event_map, "P917_Question", __LINE__}, error);
 }
+lmx::elmx_error P917Question::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void P917Question::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "P917_Uuid", m_Uuid, spec_uuid_108);
+  write_attribute(writer, "P917_ReplyType", m_ReplyType, spec_reply_type_109);
+  write_attribute(writer, "P917_Required", m_Required, spec_boolean);
+}
+lmx::elmx_error P917Question::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  write_simple_child(writer, "P917_Prompt", m_Prompt, spec_any_text);
+  write_simple_child(writer, "P917_Reply", m_Reply, spec_any_text);
+  write_simple_child(writer, "P917_Option", m_Option, spec_any_text);
+  return lmx::ELMX_OK;
+}
 bool P917Question::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Uuid.is_set(), "P917_Uuid", __LINE__) &&
          check_occurs(tracker, m_ReplyType.is_set(), "P917_ReplyType", __LINE__) &&
@@ -162,6 +180,13 @@ bool P917Comment::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { retu
 bool P917Comment::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error P917Comment::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool P917Comment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_text(reader, m_P917Comment, spec_any_text, __LINE__, error); }
+lmx::elmx_error P917Comment::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void P917Comment::marshal_attributes(lmx::c_xml_writer&) const {
+}
+lmx::elmx_error P917Comment::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  write_text(writer, m_P917Comment, spec_any_text);
+  return lmx::ELMX_OK;
+}
 bool P917Comment::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_P917Comment.is_set(), "P917_comment", __LINE__);
 }

@@ -64,6 +64,12 @@ class ISOXML_API P917Questions {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -151,6 +157,12 @@ class ISOXML_API P917Question {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];
@@ -207,6 +219,12 @@ class ISOXML_API P917Comment {
   /// 25 unless all required attributes came.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes every required attribute, set or not, and each optional one that is set.
+  void marshal_attributes(lmx::c_xml_writer& writer) const;
+  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
   static lmx::s_event_map const elem_event_map[];

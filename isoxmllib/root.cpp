@@ -295,6 +295,8 @@ bool Root::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return report_unknown_top_element(reader, __LINE__, error);
 }
+lmx::elmx_error Root::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error Root::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void Root::SelectAttachedFile() { selected_one<AttachedFile>(chosen, m_held, AttachedFileChosen); }
 AttachedFile const& Root::GetAttachedFile() const { return chosen_one<AttachedFile>(m_held, {is_chosen(chosen, m_held, AttachedFileChosen), "chosen == AttachedFileChosen"}); }

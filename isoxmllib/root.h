@@ -13,7 +13,7 @@
 #include "isoxmllib/fwd.h"
 
 /// Every document passes through here: a single choice over every element of the format, so that a whole
-/// document and any fragment are read alike.
+/// document and any fragment are read and written alike.
 class ISOXML_API Root {
  public:
   /// The alternatives' numbers; `chosen` is one of them.
@@ -107,6 +107,12 @@ class ISOXML_API Root {
   /// Reads a document, whatever element it begins with.
   lmx::elmx_error unmarshal(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
+  /// `chosen` that is no alternative.
+  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
+  /// Writes nothing: a choice has no attributes.
+  void marshal_attributes(lmx::c_xml_writer&) const {}
+  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   /// Makes `AttachedFile` the alternative held, with no object yet; no effect when it is already.
   void SelectAttachedFile();

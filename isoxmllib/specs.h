@@ -1,7 +1,7 @@
 // clang-format off
 // Generated from schema/rules.toml. Edit the schema, then build the target `schema`.
 
-// How the text of each simple type is read, checked and converted. Private to the library.
+// How the text of each simple type is read, checked, converted and written. Private to the library.
 #pragma once
 
 #include "GenLibrarySupportFiles/lmxinternals/bridges.h"

@@ -90,6 +90,8 @@ bool InnerTask::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerTask::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerTask::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerTask::SelectTreatmentZone() { selected_run<TreatmentZone>(chosen, m_held, TreatmentZoneChosen); }
 TreatmentZone const& InnerTask::GetTreatmentZone(std::size_t index) const { return run_at<TreatmentZone>(m_held, {is_chosen(chosen, m_held, TreatmentZoneChosen), "chosen == TreatmentZoneChosen"}, index, "index < u.mTreatmentZone->size()"); }
@@ -358,6 +360,23 @@ lmx::elmx_error Task::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TSK", __LINE__, m_Id.is_set() && m_Status.is_set());
 }
 bool Task::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTask, false, {elem_event_map, "TSK", __LINE__}, error); }
+lmx::elmx_error Task::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Task::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_TSK_98);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_CustomerIdRef, spec_id_CTR_99);
+  write_attribute(writer, "D", m_FarmIdRef, spec_id_FRM_100);
+  write_attribute(writer, "E", m_FieldIdRef, spec_id_PFD_101);
+  write_attribute(writer, "F", m_ResponsibleWorkerIdRef, spec_id_WKR_102);
+  write_attribute(writer, "G", m_Status, spec_one_of_1_to_6);
+  write_attribute(writer, "H", m_DefaultTreatmentZoneCode, spec_range_0_to_254_uint8);
+  write_attribute(writer, "I", m_PositionLostTreatmentZoneCode, spec_range_0_to_254_uint8);
+  write_attribute(writer, "J", m_OutOfFieldTreatmentZoneCode, spec_range_0_to_254_uint8);
+  write_attribute(writer, "P007_JobMetaData", m_P007JobMetaData, spec_any_text);
+}
+lmx::elmx_error Task::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerTask);
+}
 bool Task::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Status.is_set(), "G", __LINE__);
@@ -420,6 +439,8 @@ bool InnerTreatmentZone::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return true;
 }
+lmx::elmx_error InnerTreatmentZone::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerTreatmentZone::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerTreatmentZone::SelectPolygon() { selected_run<Polygon>(chosen, m_held, PolygonChosen); }
 Polygon const& InnerTreatmentZone::GetPolygon(std::size_t index) const { return run_at<Polygon>(m_held, {is_chosen(chosen, m_held, PolygonChosen), "chosen == PolygonChosen"}, index, "index < u.mPolygon->size()"); }
@@ -502,6 +523,15 @@ lmx::elmx_error TreatmentZone::unmarshal_attributes_check(lmx::xmlReader& reader
   return check_required(reader, "TZN", __LINE__, m_Code.is_set());
 }
 bool TreatmentZone::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTreatmentZone, false, {elem_event_map, "TZN", __LINE__}, error); }
+lmx::elmx_error TreatmentZone::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void TreatmentZone::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Code, spec_range_0_to_254_uint8);
+  write_attribute(writer, "B", m_Designator, spec_text_32);
+  write_attribute(writer, "C", m_Colour, spec_range_0_to_254_uint8);
+}
+lmx::elmx_error TreatmentZone::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerTreatmentZone);
+}
 bool TreatmentZone::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Code.is_set(), "A", __LINE__);
 }
@@ -558,6 +588,8 @@ bool InnerProcessDataVariable::unmarshal(lmx::xmlReader& reader, lmx::elmx_error
   }
   return true;
 }
+lmx::elmx_error InnerProcessDataVariable::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerProcessDataVariable::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerProcessDataVariable::SelectProcessDataVariable() { selected_run<ProcessDataVariable>(chosen, m_held, ProcessDataVariableChosen); }
 ProcessDataVariable const& InnerProcessDataVariable::GetProcessDataVariable(std::size_t index) const { return run_at<ProcessDataVariable>(m_held, {is_chosen(chosen, m_held, ProcessDataVariableChosen), "chosen == ProcessDataVariableChosen"}, index, "index < u.mProcessDataVariable->size()"); }
@@ -646,6 +678,24 @@ lmx::elmx_error ProcessDataVariable::unmarshal_attributes_check(lmx::xmlReader& 
   return check_required(reader, "PDV", __LINE__, m_DDI.is_set() && m_Value.is_set());
 }
 bool ProcessDataVariable::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerProcessDataVariable, false, {elem_event_map, "PDV", __LINE__}, error); }
+lmx::elmx_error ProcessDataVariable::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ProcessDataVariable::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_DDI, spec_bytes_2);
+  write_attribute(writer, "B", m_Value, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "C", m_ProductIdRef, spec_id_PDT_83);
+  write_attribute(writer, "D", m_DeviceElementIdRef, spec_id_DET_84);
+  write_attribute(writer, "E", m_rare.get().m_ValuePresentationIdRef, spec_id_VPN_85);
+  write_attribute(writer, "F", m_rare.get().m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "G", m_rare.get().m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "P917_rxmap", m_rare.get().m_P917Rxmap, spec_attached_file_86);
+  write_attribute(writer, "P917_rxcolumn", m_rare.get().m_P917Rxcolumn, spec_text_64);
+  write_attribute(writer, "P917_rxunit", m_rare.get().m_P917Rxunit, spec_text_64);
+  write_attribute(writer, "P917_rxconvrate", m_rare.get().m_P917Rxconvrate, spec_scale_factor);
+  write_attribute(writer, "P917_rxwoconvrate", m_rare.get().m_P917Rxwoconvrate, spec_scale_factor);
+}
+lmx::elmx_error ProcessDataVariable::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerProcessDataVariable);
+}
 bool ProcessDataVariable::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_DDI.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Value.is_set(), "B", __LINE__);
@@ -737,6 +787,22 @@ lmx::elmx_error Grid::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "GRD", __LINE__, m_MinimumNorthPosition.is_set() && m_MinimumEastPosition.is_set() && m_CellNorthSize.is_set() && m_CellEastSize.is_set() && m_MaximumColumn.is_set() && m_MaximumRow.is_set() && m_Filename.is_set() && m_Type.is_set());
 }
 bool Grid::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Grid::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Grid::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_MinimumNorthPosition, spec_degrees_latitude);
+  write_attribute(writer, "B", m_MinimumEastPosition, spec_degrees_longitude);
+  write_attribute(writer, "C", m_CellNorthSize, spec_cell_size);
+  write_attribute(writer, "D", m_CellEastSize, spec_cell_size);
+  write_attribute(writer, "E", m_MaximumColumn, spec_range_0_to_4294967295_uint32);
+  write_attribute(writer, "F", m_MaximumRow, spec_range_0_to_4294967295_uint32);
+  write_attribute(writer, "G", m_Filename, spec_file_GRD_62);
+  write_attribute(writer, "H", m_Filelength, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "I", m_Type, spec_one_of_1_2);
+  write_attribute(writer, "J", m_TreatmentZoneCode, spec_range_0_to_254_uint8);
+}
+lmx::elmx_error Grid::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Grid::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_MinimumNorthPosition.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_MinimumEastPosition.is_set(), "B", __LINE__) &&
@@ -793,6 +859,8 @@ bool InnerTime::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerTime::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerTime::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerTime::SelectPosition() { selected_run<Position>(chosen, m_held, PositionChosen); }
 Position const& InnerTime::GetPosition(std::size_t index) const { LMX_ASSERT(index < 2); return run_at<Position>(m_held, {is_chosen(chosen, m_held, PositionChosen), "chosen == PositionChosen"}, index, "index < u.mPosition->size()"); }
@@ -876,6 +944,16 @@ lmx::elmx_error Time::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TIM", __LINE__, m_Start.is_set() && m_Type.is_set());
 }
 bool Time::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTime, false, {elem_event_map, "TIM", __LINE__}, error); }
+lmx::elmx_error Time::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Time::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Start, spec_date_time);
+  write_attribute(writer, "B", m_Stop, spec_date_time);
+  write_attribute(writer, "C", m_Duration, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "D", m_Type, spec_one_of_1_2_4_to_8);
+}
+lmx::elmx_error Time::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerTime);
+}
 bool Time::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Start.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Type.is_set(), "D", __LINE__);
@@ -968,6 +1046,21 @@ lmx::elmx_error Position::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "PTN", __LINE__, m_North.is_set() && m_East.is_set() && m_Status.is_set());
 }
 bool Position::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Position::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Position::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_North, spec_degrees_latitude);
+  write_attribute(writer, "B", m_East, spec_degrees_longitude);
+  write_attribute(writer, "C", m_Altitude, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "D", m_Status, spec_one_of_0_to_15);
+  write_attribute(writer, "E", m_rare.get().m_PDOP, spec_dilution);
+  write_attribute(writer, "F", m_rare.get().m_HDOP, spec_dilution);
+  write_attribute(writer, "G", m_NumberOfSatelites, spec_range_0_to_254_uint8);
+  write_attribute(writer, "H", m_rare.get().m_GpsUtcTime, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "I", m_rare.get().m_PgsUtcDate, spec_range_0_to_65534_uint16);
+}
+lmx::elmx_error Position::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Position::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_North.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_East.is_set(), "B", __LINE__) &&
@@ -1058,6 +1151,24 @@ lmx::elmx_error DataLogTrigger::unmarshal_attributes_check(lmx::xmlReader& reade
   return check_required(reader, "DLT", __LINE__, m_DDI.is_set() && m_Method.is_set());
 }
 bool DataLogTrigger::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error DataLogTrigger::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DataLogTrigger::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_DDI, spec_bytes_2);
+  write_attribute(writer, "B", m_Method, spec_range_1_to_31_uint8);
+  write_attribute(writer, "C", m_DistanceInterval, spec_range_0_to_1000000_uint32);
+  write_attribute(writer, "D", m_TimeInterval, spec_range_0_to_60000_uint16);
+  write_attribute(writer, "E", m_ThresholdMinimum, spec_range_minus_2147483647_to_2147483647_int32);
+  write_attribute(writer, "F", m_ThresholdMaximum, spec_range_minus_2147483647_to_2147483647_int32);
+  write_attribute(writer, "G", m_ThresholdChange, spec_range_minus_2147483647_to_2147483647_int32);
+  write_attribute(writer, "H", m_DeviceElementIdRef, spec_id_DET_44);
+  write_attribute(writer, "I", m_ValuePresentationIdRef, spec_id_VPN_45);
+  write_attribute(writer, "J", m_PGN, spec_range_0_to_262143_uint32);
+  write_attribute(writer, "K", m_PGNStartBit, spec_range_0_to_63_uint8);
+  write_attribute(writer, "L", m_PGNStopBit, spec_range_0_to_63_uint8);
+}
+lmx::elmx_error DataLogTrigger::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool DataLogTrigger::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_DDI.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Method.is_set(), "B", __LINE__);
@@ -1127,6 +1238,18 @@ lmx::elmx_error DataLogValue::unmarshal_attributes_check(lmx::xmlReader& reader)
   return check_required(reader, "DLV", __LINE__, m_PrecessDataDDI.is_set() && m_PrecessDataValue.is_set() && m_DeviceElementIdRef.is_set());
 }
 bool DataLogValue::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error DataLogValue::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DataLogValue::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_PrecessDataDDI, spec_bytes_2);
+  write_attribute(writer, "B", m_PrecessDataValue, spec_range_minus_2147483648_to_2147483647_int32);
+  write_attribute(writer, "C", m_DeviceElementIdRef, spec_id_DET_48);
+  write_attribute(writer, "D", m_rare.get().m_PGN, spec_range_0_to_262143_uint32);
+  write_attribute(writer, "E", m_rare.get().m_PGNStartBit, spec_range_0_to_63_uint8);
+  write_attribute(writer, "F", m_rare.get().m_PGNStopBit, spec_range_0_to_63_uint8);
+}
+lmx::elmx_error DataLogValue::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool DataLogValue::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_PrecessDataDDI.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_PrecessDataValue.is_set(), "B", __LINE__) &&
@@ -1188,6 +1311,15 @@ lmx::elmx_error TimeLog::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "TLG", __LINE__, m_Filename.is_set() && m_Type.is_set());
 }
 bool TimeLog::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error TimeLog::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void TimeLog::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Filename, spec_file_TLG_103);
+  write_attribute(writer, "B", m_Filelength, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "C", m_Type, spec_one_of_1);
+}
+lmx::elmx_error TimeLog::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool TimeLog::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Filename.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Type.is_set(), "C", __LINE__);
@@ -1235,6 +1367,8 @@ bool InnerAllocationStamp::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* er
   }
   return true;
 }
+lmx::elmx_error InnerAllocationStamp::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerAllocationStamp::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerAllocationStamp::SelectPosition() { selected_run<Position>(chosen, m_held, PositionChosen); }
 Position const& InnerAllocationStamp::GetPosition(std::size_t index) const { LMX_ASSERT(index < 2); return run_at<Position>(m_held, {is_chosen(chosen, m_held, PositionChosen), "chosen == PositionChosen"}, index, "index < u.mPosition->size()"); }
@@ -1302,6 +1436,16 @@ lmx::elmx_error AllocationStamp::unmarshal_attributes_check(lmx::xmlReader& read
   return check_required(reader, "ASP", __LINE__, m_Start.is_set() && m_Type.is_set());
 }
 bool AllocationStamp::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerAllocationStamp, {elem_event_map, "ASP", __LINE__}, error); }
+lmx::elmx_error AllocationStamp::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void AllocationStamp::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Start, spec_date_time);
+  write_attribute(writer, "B", m_Stop, spec_date_time);
+  write_attribute(writer, "C", m_Duration, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "D", m_Type, spec_one_of_1_4);
+}
+lmx::elmx_error AllocationStamp::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerAllocationStamp);
+}
 bool AllocationStamp::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Start.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Type.is_set(), "D", __LINE__);
@@ -1355,6 +1499,8 @@ bool InnerCommentAllocation::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* 
   }
   return true;
 }
+lmx::elmx_error InnerCommentAllocation::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerCommentAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerCommentAllocation::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerCommentAllocation::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1409,6 +1555,15 @@ bool CommentAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attr
 }
 lmx::elmx_error CommentAllocation::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool CommentAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerCommentAllocation, {elem_event_map, "CAN", __LINE__}, error); }
+lmx::elmx_error CommentAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void CommentAllocation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_CodedCommentIdRef, spec_id_CCT_22);
+  write_attribute(writer, "B", m_CodedCommentListValueIdRef, spec_id_CCL_23);
+  write_attribute(writer, "C", m_FreeCommentText, spec_text_32);
+}
+lmx::elmx_error CommentAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerCommentAllocation);
+}
 bool CommentAllocation::IsOccursOk(lmx::c_check_tracker*) const {
   return true;
 }
@@ -1459,6 +1614,8 @@ bool InnerDeviceAllocation::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return true;
 }
+lmx::elmx_error InnerDeviceAllocation::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerDeviceAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerDeviceAllocation::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerDeviceAllocation::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1515,6 +1672,15 @@ lmx::elmx_error DeviceAllocation::unmarshal_attributes_check(lmx::xmlReader& rea
   return check_required(reader, "DAN", __LINE__, m_ClientNameValue.is_set());
 }
 bool DeviceAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerDeviceAllocation, {elem_event_map, "DAN", __LINE__}, error); }
+lmx::elmx_error DeviceAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void DeviceAllocation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ClientNameValue, spec_bytes_8);
+  write_attribute(writer, "B", m_ClientNameMask, spec_bytes_8);
+  write_attribute(writer, "C", m_DeviceIdRef, spec_id_DVC_52);
+}
+lmx::elmx_error DeviceAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerDeviceAllocation);
+}
 bool DeviceAllocation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ClientNameValue.is_set(), "A", __LINE__);
 }
@@ -1565,6 +1731,8 @@ bool InnerWorkerAllocation::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return true;
 }
+lmx::elmx_error InnerWorkerAllocation::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerWorkerAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerWorkerAllocation::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerWorkerAllocation::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1615,6 +1783,13 @@ lmx::elmx_error WorkerAllocation::unmarshal_attributes_check(lmx::xmlReader& rea
   return check_required(reader, "WAN", __LINE__, m_WorkerIdRef.is_set());
 }
 bool WorkerAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerWorkerAllocation, {elem_event_map, "WAN", __LINE__}, error); }
+lmx::elmx_error WorkerAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void WorkerAllocation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_WorkerIdRef, spec_id_WKR_107);
+}
+lmx::elmx_error WorkerAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerWorkerAllocation);
+}
 bool WorkerAllocation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_WorkerIdRef.is_set(), "A", __LINE__);
 }
@@ -1665,6 +1840,8 @@ bool InnerProductAllocation::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* 
   }
   return true;
 }
+lmx::elmx_error InnerProductAllocation::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerProductAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerProductAllocation::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerProductAllocation::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1733,6 +1910,19 @@ lmx::elmx_error ProductAllocation::unmarshal_attributes_check(lmx::xmlReader& re
   return check_required(reader, "PAN", __LINE__, m_ProductIdRef.is_set());
 }
 bool ProductAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerProductAllocation, {elem_event_map, "PAN", __LINE__}, error); }
+lmx::elmx_error ProductAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ProductAllocation::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ProductIdRef, spec_id_PDT_91);
+  write_attribute(writer, "B", m_QuantityDDI, spec_bytes_2);
+  write_attribute(writer, "C", m_QuantityValue, spec_range_0_to_2147483647_uint32);
+  write_attribute(writer, "D", m_TransferMode, spec_one_of_1_to_3);
+  write_attribute(writer, "E", m_DeviceElementIdRef, spec_id_DET_92);
+  write_attribute(writer, "F", m_ValuePresentationIdRef, spec_id_VPN_93);
+  write_attribute(writer, "G", m_ProductSubTypeIdRef, spec_id_PDT_94);
+}
+lmx::elmx_error ProductAllocation::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerProductAllocation);
+}
 bool ProductAllocation::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ProductIdRef.is_set(), "A", __LINE__);
 }
@@ -1785,6 +1975,8 @@ bool InnerControlAssignment::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* 
   }
   return true;
 }
+lmx::elmx_error InnerControlAssignment::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerControlAssignment::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerControlAssignment::SelectAllocationStamp() { selected_one<AllocationStamp>(chosen, m_held, AllocationStampChosen); }
 AllocationStamp const& InnerControlAssignment::GetAllocationStamp() const { return chosen_one<AllocationStamp>(m_held, {is_chosen(chosen, m_held, AllocationStampChosen), "chosen == AllocationStampChosen"}); }
@@ -1851,6 +2043,19 @@ lmx::elmx_error ControlAssignment::unmarshal_attributes_check(lmx::xmlReader& re
   return check_required(reader, "CAT", __LINE__, m_SourceClientName.is_set() && m_UserClientName.is_set() && m_SourceDeviceStructureLabel.is_set() && m_UserDeviceStructureLabel.is_set() && m_SourceDeviceElementNumber.is_set() && m_UserDevieceElementNumber.is_set() && m_ProcessDataDDI.is_set());
 }
 bool ControlAssignment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerControlAssignment, {elem_event_map, "CAT", __LINE__}, error); }
+lmx::elmx_error ControlAssignment::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ControlAssignment::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_SourceClientName, spec_bytes_8);
+  write_attribute(writer, "B", m_UserClientName, spec_bytes_8);
+  write_attribute(writer, "C", m_SourceDeviceStructureLabel, spec_structure_label_28);
+  write_attribute(writer, "D", m_UserDeviceStructureLabel, spec_structure_label_upper_first_29);
+  write_attribute(writer, "E", m_SourceDeviceElementNumber, spec_range_0_to_4095_uint16);
+  write_attribute(writer, "F", m_UserDevieceElementNumber, spec_range_0_to_4095_uint16);
+  write_attribute(writer, "G", m_ProcessDataDDI, spec_bytes_2);
+}
+lmx::elmx_error ControlAssignment::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrapper(writer, mInnerControlAssignment);
+}
 bool ControlAssignment::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_SourceClientName.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_UserClientName.is_set(), "B", __LINE__) &&
@@ -1925,6 +2130,16 @@ lmx::elmx_error Connection::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "CNN", __LINE__, m_DeviceIdRef_0.is_set() && m_DeviceElementIdRef_0.is_set() && m_DeviceIdRef_1.is_set() && m_DeviceElementIdRef_1.is_set());
 }
 bool Connection::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Connection::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Connection::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_DeviceIdRef_0, spec_id_DVC_24);
+  write_attribute(writer, "B", m_DeviceElementIdRef_0, spec_id_DET_25);
+  write_attribute(writer, "C", m_DeviceIdRef_1, spec_id_DVC_26);
+  write_attribute(writer, "D", m_DeviceElementIdRef_1, spec_id_DET_27);
+}
+lmx::elmx_error Connection::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Connection::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_DeviceIdRef_0.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_DeviceElementIdRef_0.is_set(), "B", __LINE__) &&
@@ -1984,6 +2199,14 @@ lmx::elmx_error OperTechPractice::unmarshal_attributes_check(lmx::xmlReader& rea
   return check_required(reader, "OTP", __LINE__, m_CulturalPracticeIdRef.is_set());
 }
 bool OperTechPractice::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error OperTechPractice::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void OperTechPractice::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_CulturalPracticeIdRef, spec_id_CPC_72);
+  write_attribute(writer, "B", m_OperationTechniqueIdRef, spec_id_OTQ_73);
+}
+lmx::elmx_error OperTechPractice::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool OperTechPractice::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_CulturalPracticeIdRef.is_set(), "A", __LINE__);
 }

@@ -114,6 +114,8 @@ bool InnerTaskData::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerTaskData::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerTaskData::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerTaskData::SelectP917Metadata() { selected_one<P917Metadata>(chosen, m_held, P917MetadataChosen); }
 P917Metadata const& InnerTaskData::GetP917Metadata() const { return chosen_one<P917Metadata>(m_held, {is_chosen(chosen, m_held, P917MetadataChosen), "chosen == P917MetadataChosen"}); }
@@ -483,6 +485,20 @@ lmx::elmx_error TaskData::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "ISO11783_TaskData", __LINE__, m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set());
 }
 bool TaskData::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTaskData, false, {elem_event_map, "ISO11783_TaskData", __LINE__}, error); }
+lmx::elmx_error TaskData::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void TaskData::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "VersionMajor", m_VersionMajor, spec_any_token);
+  write_attribute(writer, "VersionMinor", m_VersionMinor, spec_any_token);
+  write_attribute(writer, "ManagementSoftwareManufacturer", m_ManagementSoftwareManufacturer, spec_text_32);
+  write_attribute(writer, "ManagementSoftwareVersion", m_ManagementSoftwareVersion, spec_text_32);
+  write_attribute(writer, "TaskControllerManufacturer", m_TaskControllerManufacturer, spec_text_32);
+  write_attribute(writer, "TaskControllerVersion", m_TaskControllerVersion, spec_text_32);
+  write_attribute(writer, "DataTransferOrigin", m_DataTransferOrigin, spec_one_of_1_2);
+  write_attribute(writer, "lang", m_Language, spec_token_32);
+}
+lmx::elmx_error TaskData::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerTaskData);
+}
 bool TaskData::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_VersionMajor.is_set(), "VersionMajor", __LINE__) &&
          check_occurs(tracker, m_VersionMinor.is_set(), "VersionMinor", __LINE__) &&
@@ -590,6 +606,8 @@ bool InnerExternalFileContent::unmarshal(lmx::xmlReader& reader, lmx::elmx_error
   }
   return true;
 }
+lmx::elmx_error InnerExternalFileContent::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerExternalFileContent::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerExternalFileContent::SelectBaseStation() { selected_run<BaseStation>(chosen, m_held, BaseStationChosen); }
 BaseStation const& InnerExternalFileContent::GetBaseStation(std::size_t index) const { return run_at<BaseStation>(m_held, {is_chosen(chosen, m_held, BaseStationChosen), "chosen == BaseStationChosen"}, index, "index < u.mBaseStation->size()"); }
@@ -876,6 +894,12 @@ bool ExternalFileContent::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*
 bool ExternalFileContent::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
 lmx::elmx_error ExternalFileContent::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool ExternalFileContent::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerExternalFileContent, false, {elem_event_map, "XFC", __LINE__}, error); }
+lmx::elmx_error ExternalFileContent::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ExternalFileContent::marshal_attributes(lmx::c_xml_writer&) const {
+}
+lmx::elmx_error ExternalFileContent::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerExternalFileContent);
+}
 bool ExternalFileContent::IsOccursOk(lmx::c_check_tracker*) const {
   return true;
 }
@@ -944,6 +968,14 @@ lmx::elmx_error ExternalFileReference::unmarshal_attributes_check(lmx::xmlReader
   return check_required(reader, "XFR", __LINE__, m_FileName.is_set() && m_Type.is_set());
 }
 bool ExternalFileReference::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error ExternalFileReference::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void ExternalFileReference::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_FileName, spec_external_file_12);
+  write_attribute(writer, "B", m_Type, spec_one_of_1);
+}
+lmx::elmx_error ExternalFileReference::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool ExternalFileReference::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_FileName.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Type.is_set(), "B", __LINE__);
@@ -1015,6 +1047,18 @@ lmx::elmx_error AttachedFile::unmarshal_attributes_check(lmx::xmlReader& reader)
   return check_required(reader, "AFE", __LINE__, m_FileNameWithExtension.is_set() && m_Preserve.is_set() && m_ManufacturerGLN.is_set() && m_Type.is_set());
 }
 bool AttachedFile::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error AttachedFile::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void AttachedFile::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_FileNameWithExtension, spec_attached_file_1);
+  write_attribute(writer, "B", m_Preserve, spec_one_of_1_2);
+  write_attribute(writer, "C", m_ManufacturerGLN, spec_gln_32);
+  write_attribute(writer, "D", m_Type, spec_range_1_to_254_uint8);
+  write_attribute(writer, "E", m_FileVersion, spec_text_32);
+  write_attribute(writer, "F", m_FileLength, spec_range_0_to_4294967294_uint32);
+}
+lmx::elmx_error AttachedFile::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool AttachedFile::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_FileNameWithExtension.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Preserve.is_set(), "B", __LINE__) &&
@@ -1091,6 +1135,19 @@ lmx::elmx_error TaskControllerCapabilities::unmarshal_attributes_check(lmx::xmlR
   return check_required(reader, "TCC", __LINE__, m_ControlFunctionName.is_set() && m_Designator.is_set() && m_VersionNumber.is_set() && m_ProvidedCapabilites.is_set() && m_NumberOfBoomsSectionControl.is_set() && m_NumberOfSectionsSectionControl.is_set() && m_NumberOfControlChannels.is_set());
 }
 bool TaskControllerCapabilities::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error TaskControllerCapabilities::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void TaskControllerCapabilities::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ControlFunctionName, spec_bytes_8);
+  write_attribute(writer, "B", m_Designator, spec_text_153);
+  write_attribute(writer, "C", m_VersionNumber, spec_one_of_0_to_4);
+  write_attribute(writer, "D", m_ProvidedCapabilites, spec_range_0_to_63_uint8);
+  write_attribute(writer, "E", m_NumberOfBoomsSectionControl, spec_range_0_to_254_uint8);
+  write_attribute(writer, "F", m_NumberOfSectionsSectionControl, spec_range_0_to_254_uint8);
+  write_attribute(writer, "G", m_NumberOfControlChannels, spec_range_0_to_254_uint8);
+}
+lmx::elmx_error TaskControllerCapabilities::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool TaskControllerCapabilities::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ControlFunctionName.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Designator.is_set(), "B", __LINE__) &&
@@ -1153,6 +1210,16 @@ lmx::elmx_error P917Metadata::unmarshal_attributes_check(lmx::xmlReader& reader)
   return check_required(reader, "P917_Metadata", __LINE__, m_Version.is_set());
 }
 bool P917Metadata::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error P917Metadata::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void P917Metadata::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "Version", m_Version, spec_any_token);
+  write_attribute(writer, "CloudJob", m_CloudJob, spec_boolean);
+  write_attribute(writer, "originationId", m_OriginationId, spec_one_of_FC_USB_API_PORTAL);
+  write_attribute(writer, "jobStatusId", m_JobStatusId, spec_one_of_1_to_4);
+}
+lmx::elmx_error P917Metadata::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool P917Metadata::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Version.is_set(), "Version", __LINE__);
 }
@@ -1201,6 +1268,8 @@ bool InnerLinkList::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerLinkList::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerLinkList::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerLinkList::SelectLinkGroup() { selected_run<LinkGroup>(chosen, m_held, LinkGroupChosen); }
 LinkGroup const& InnerLinkList::GetLinkGroup(std::size_t index) const { return run_at<LinkGroup>(m_held, {is_chosen(chosen, m_held, LinkGroupChosen), "chosen == LinkGroupChosen"}, index, "index < u.mLinkGroup->size()"); }
@@ -1270,6 +1339,20 @@ lmx::elmx_error LinkList::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "ISO11783LinkList", __LINE__, m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set());
 }
 bool LinkList::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerLinkList, false, {elem_event_map, "ISO11783LinkList", __LINE__}, error); }
+lmx::elmx_error LinkList::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void LinkList::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "VersionMajor", m_VersionMajor, spec_any_token);
+  write_attribute(writer, "VersionMinor", m_VersionMinor, spec_any_token);
+  write_attribute(writer, "ManagementSoftwareManufacturer", m_ManagementSoftwareManufacturer, spec_text_32);
+  write_attribute(writer, "ManagementSoftwareVersion", m_ManagementSoftwareVersion, spec_text_32);
+  write_attribute(writer, "TaskControllerManufacturer", m_TaskControllerManufacturer, spec_text_32);
+  write_attribute(writer, "TaskControllerVersion", m_TaskControllerVersion, spec_text_32);
+  write_attribute(writer, "FileVersion", m_FileVersion, spec_text_32);
+  write_attribute(writer, "DataTransferOrigin", m_DataTransferOrigin, spec_one_of_1_2);
+}
+lmx::elmx_error LinkList::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerLinkList);
+}
 bool LinkList::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_VersionMajor.is_set(), "VersionMajor", __LINE__) &&
          check_occurs(tracker, m_VersionMinor.is_set(), "VersionMinor", __LINE__) &&
@@ -1332,6 +1415,8 @@ bool InnerLinkGroup::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return true;
 }
+lmx::elmx_error InnerLinkGroup::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerLinkGroup::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerLinkGroup::SelectLink() { selected_run<Link>(chosen, m_held, LinkChosen); }
 Link const& InnerLinkGroup::GetLink(std::size_t index) const { return run_at<Link>(m_held, {is_chosen(chosen, m_held, LinkChosen), "chosen == LinkChosen"}, index, "index < u.mLink->size()"); }
@@ -1404,6 +1489,17 @@ lmx::elmx_error LinkGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "LGP", __LINE__, m_Id.is_set() && m_Type.is_set());
 }
 bool LinkGroup::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerLinkGroup, false, {elem_event_map, "LGP", __LINE__}, error); }
+lmx::elmx_error LinkGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void LinkGroup::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_id_LGP_112);
+  write_attribute(writer, "B", m_Type, spec_one_of_1_to_4);
+  write_attribute(writer, "C", m_ManufacturerGLN, spec_gln_64);
+  write_attribute(writer, "D", m_Namespace, spec_token_255);
+  write_attribute(writer, "E", m_Designator, spec_text_32);
+}
+lmx::elmx_error LinkGroup::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerLinkGroup);
+}
 bool LinkGroup::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Type.is_set(), "B", __LINE__);
@@ -1478,6 +1574,15 @@ lmx::elmx_error Link::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "LNK", __LINE__, m_ObjectIdRef.is_set() && m_Value.is_set());
 }
 bool Link::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Link::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Link::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_ObjectIdRef, spec_object_id_ref_110);
+  write_attribute(writer, "B", m_Value, spec_token_255);
+  write_attribute(writer, "C", m_Designator, spec_text_32);
+}
+lmx::elmx_error Link::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Link::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_ObjectIdRef.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Value.is_set(), "B", __LINE__);

@@ -139,6 +139,17 @@ def declare_alternative(alternative):
     return lines
 
 
+def declare_choice_marshal():
+    return [
+        "  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a",
+        "  /// `chosen` that is no alternative.",
+        "  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;",
+        "  /// Writes nothing: a choice has no attributes.",
+        "  void marshal_attributes(lmx::c_xml_writer&) const {}",
+        "  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;",
+    ]
+
+
 def declare_choice_class(name, doc, alternatives, count, read_document):
     lines = comment(doc) + [f"class ISOXML_API {name} {{", " public:", "  /// The alternatives' numbers; `chosen` is one of them.",
                             "  enum : std::int32_t {"]
@@ -155,7 +166,7 @@ def declare_choice_class(name, doc, alternatives, count, read_document):
     if read_document:
         lines += ["  /// Reads a document, whatever element it begins with.",
                   "  lmx::elmx_error unmarshal(lmx::xmlReader& reader);"]
-    lines += ["  bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);"]
+    lines += ["  bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);"] + declare_choice_marshal()
     for row in alternatives:
         lines += declare_alternative(row)
     lines += ["", "  std::int32_t chosen;", "",
@@ -223,6 +234,12 @@ def declare_element(element):
         "  /// 25 unless all required attributes came.",
         "  lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);",
         "  bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);",
+        "  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.",
+        "  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;",
+        "  /// Writes every required attribute, set or not, and each optional one that is set.",
+        "  void marshal_attributes(lmx::c_xml_writer& writer) const;",
+        "  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.",
+        "  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;",
         "",
         "  static lmx::s_event_map const attr_event_map[];",
         "  static lmx::s_event_map const elem_event_map[];",
@@ -337,6 +354,13 @@ def define_choice_checks(name, alternatives, occurs):
     return lines + ["  }", "  return true;", "}"]
 
 
+def define_choice_marshal(name):
+    return [
+        f"lmx::elmx_error {name}::marshal(lmx::c_xml_writer& writer, char const*) const {{ return marshal_child_elements(writer); }}",
+        f"lmx::elmx_error {name}::marshal_child_elements(lmx::c_xml_writer& writer) const {{ return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }}",
+    ]
+
+
 def define_wrapper(element):
     name = inner(element)
     rows = element.alternatives
@@ -364,7 +388,7 @@ def define_wrapper(element):
         lines.append(f"  return report(reader, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, {{elem_event_map, {tag}, __LINE__}}, error);")
     else:
         lines.append("  return true;")
-    lines += ["}", ""]
+    lines += ["}"] + define_choice_marshal(name) + [""]
     for row in rows:
         lines += define_alternative(name, row) + [""]
     return lines
@@ -481,6 +505,33 @@ def define_body(element):
     return [f"bool {name}::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) {{ return true; }}"]
 
 
+def define_marshal(element):
+    return ([f"lmx::elmx_error {element.name}::marshal(lmx::c_xml_writer& writer, char const* name) const {{ return write_element(*this, writer, name); }}"]
+            + marshal_function("void", f"{element.name}::marshal_attributes", marshal_attribute_steps(element))
+            + marshal_function("lmx::elmx_error", f"{element.name}::marshal_child_elements", marshal_content_steps(element)))
+
+
+def marshal_function(result, name, steps):
+    writer = " writer" if any("writer" in step for step in steps) else ""
+    return [f"{result} {name}(lmx::c_xml_writer&{writer}) const {{"] + [f"  {step}" for step in steps] + ["}"]
+
+
+def marshal_attribute_steps(element):
+    return [f"write_attribute(writer, {quoted(value.xml)}, {value.member}, {value.spec});" for value in element.attributes]
+
+
+def marshal_content_steps(element):
+    if element.alternatives:
+        function = "write_wrapper" if element.children == "at_most_one" else "write_wrappers"
+        return [f"return {function}(writer, m{inner(element)});"]
+    if element.list_of:
+        return [f"return write_list(writer, m{element.list_of.name}, {tag_literal(element.list_of)});"]
+    steps = [f"write_simple_child(writer, {quoted(child.xml)}, m_{child.field}, {child.spec});" for child in element.simple_children]
+    if element.text:
+        steps.append(f"write_text(writer, m_{element.text.field}, {element.text.spec});")
+    return steps + ["return lmx::ELMX_OK;"]
+
+
 def child_tags(element):
     """The tags of an element's children, each once, with the events it dispatches on."""
     if element.list_of:
@@ -512,7 +563,7 @@ def define_element(element):
         f"  return read_element(*this, reader, name, {{&lmx::c_unmarshal_helper::unmarshal_{content}_content, {table}, {empty}, __LINE__}}{collect});",
         "}",
     ]
-    lines += define_attributes(element) + define_body(element) + define_check(element)
+    lines += define_attributes(element) + define_body(element) + define_marshal(element) + define_check(element)
     if element.alternatives:
         wrapper, member = inner(element), f"m{inner(element)}"
         if element.children == "at_most_one":
@@ -578,7 +629,7 @@ def group_source(schema, group):
 
 
 ROOT_DOC = ("Every document passes through here: a single choice over every element of the format, so that a whole "
-            "document and any fragment are read alike.")
+            "document and any fragment are read and written alike.")
 
 
 def root_header(schema):
@@ -607,7 +658,7 @@ def root_source(schema):
     ]
     for row in rows:
         lines.append(f"    case elem_{row.element.usual_alternative}: return read_alternative(reader, new_one<{row.element.name}>(chosen, m_held, {row.name}Chosen), __LINE__, error);")
-    lines += ["  }", "  return report_unknown_top_element(reader, __LINE__, error);", "}", ""]
+    lines += ["  }", "  return report_unknown_top_element(reader, __LINE__, error);", "}"] + define_choice_marshal("Root") + [""]
     for row in rows:
         lines += define_alternative("Root", row) + [""]
     return lines[:-1]
@@ -617,7 +668,7 @@ def fwd_header(schema):
     names = sorted([element.name for element in schema.elements.values()]
                    + [inner(element) for element in schema.elements.values() if element.alternatives] + ["Root"])
     return banner("schema") + ["// Names of all element classes, for headers that only point at them.", "#pragma once", "",
-                               "namespace lmx {", "class xmlReader;", "}", ""] + [f"class {name};" for name in names]
+                               "namespace lmx {", "class c_xml_writer;", "class xmlReader;", "}", ""] + [f"class {name};" for name in names]
 
 
 def events_header(schema):
@@ -762,7 +813,7 @@ def spec_rows(schema):
 
 
 def specs_header(schema):
-    lines = banner("schema/rules.toml") + ["// How the text of each simple type is read, checked and converted. Private to the library.", "#pragma once", "",
+    lines = banner("schema/rules.toml") + ["// How the text of each simple type is read, checked, converted and written. Private to the library.", "#pragma once", "",
                                            '#include "GenLibrarySupportFiles/lmxinternals/bridges.h"', '#include "isoxmllib/rules.h"',
                                            '#include "isoxmllib/validators.h"', "", "namespace binding {", ""]
     lines += [f"extern lmx::c_validation_spec<{value.cpp_type}> const {value.spec};" for value in spec_rows(schema)]

@@ -1,8 +1,9 @@
 // What a choice wrapper holds: nothing, one owned child, or a run of owned children, for one alternative at
-// a time. The wrapper knows its alternatives by number; this class knows how to own, copy and check
+// a time. The wrapper knows its alternatives by number; this class knows how to own, copy, check and write
 // whichever is there.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <utility>
@@ -10,8 +11,11 @@
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxinternals/check_tracker.h"
 #include "GenLibrarySupportFiles/lmxinternals/containers.h"
+#include "GenLibrarySupportFiles/lmxparse/error_codes.h"
 
 namespace lmx {
+
+class c_xml_writer;
 
 namespace detail {
 
@@ -21,6 +25,8 @@ class held_base {
   virtual std::unique_ptr<held_base> clone() const = 0;
   /// Checks each child under its tag; false at the first failure.
   virtual bool check(c_check_tracker* tracker, char const* tag) const = 0;
+  /// Writes each child under its tag; the first error ends it.
+  virtual elmx_error marshal(c_xml_writer& writer, char const* tag) const = 0;
 };
 
 template <class T>
@@ -33,6 +39,13 @@ class held_run final : public held_base {
     }
     return true;
   }
+  elmx_error marshal(c_xml_writer& writer, char const* tag) const override {
+    for (std::size_t i = 0; i != m_items.size(); ++i) {
+      elmx_error const error = m_items.get(i).marshal(writer, tag);
+      if (error != ELMX_OK) return error;
+    }
+    return ELMX_OK;
+  }
   ct_complex_multi<T> m_items;
 };
 
@@ -42,6 +55,9 @@ class held_one final : public held_base {
   std::unique_ptr<held_base> clone() const override { return std::make_unique<held_one>(*this); }
   bool check(c_check_tracker* tracker, char const* tag) const override {
     return !m_item.is_set() || m_item.get().Check(tracker, tag);
+  }
+  elmx_error marshal(c_xml_writer& writer, char const* tag) const override {
+    return m_item.is_set() ? m_item.get().marshal(writer, tag) : ELMX_OK;
   }
   ct_complex_optional<T> m_item;
 };
@@ -68,6 +84,9 @@ class ct_choice {
   bool holds(std::int32_t alternative) const { return m_alternative == alternative; }
   bool check(c_check_tracker* tracker, char const* tag) const {
     return !mp_held || mp_held->check(tracker, tag);
+  }
+  elmx_error marshal(c_xml_writer& writer, char const* tag) const {
+    return mp_held ? mp_held->marshal(writer, tag) : ELMX_OK;
   }
 
   /// The run held for `alternative`; anything else that was held is freed first.

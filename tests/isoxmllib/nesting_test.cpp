@@ -1,11 +1,14 @@
 // Documents that nest deeper than any stack: refused with their code, never a crash, on stacks of any size.
+// What was read of them can be copied, checked, written and destroyed on the same stack.
 
 #include <gtest/gtest.h>
 #include <pthread.h>
 
 #include <cstddef>
+#include <sstream>
 #include <string>
 
+#include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
 #include "support/document.h"
 
@@ -58,8 +61,14 @@ TEST(Nesting, AMillionLevelsAreRefusedWithoutACrash) {
       const Reading reading = read_document(root, document);
       EXPECT_EQ(5, reading.code);
       EXPECT_EQ("PDV", reading.item);
-      const Root copy(root);  // what was read can be copied, checked and destroyed on the same stack
+      const Root copy(root);
       EXPECT_FALSE(copy.Check()) << "the refused element has no attributes";
+      std::ostringstream out;
+      lmx::c_xml_writer writer(out, "", "", "", "");
+      EXPECT_EQ(0, copy.marshal(writer, nullptr));
+      const std::string start = out.str().substr(0, out.str().find("/>"));
+      EXPECT_EQ(document.substr(0, start.rfind("<PDV")), start.substr(0, start.rfind("<PDV")));
+      EXPECT_EQ("<PDV A=\"\" B=\"0\"", start.substr(start.rfind("<PDV"))) << "the refused element";
     });
   }
 }

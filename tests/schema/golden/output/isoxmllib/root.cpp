@@ -54,6 +54,8 @@ bool Root::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return report_unknown_top_element(reader, __LINE__, error);
 }
+lmx::elmx_error Root::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error Root::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void Root::SelectShelf() { selected_one<Shelf>(chosen, m_held, ShelfChosen); }
 Shelf const& Root::GetShelf() const { return chosen_one<Shelf>(m_held, {is_chosen(chosen, m_held, ShelfChosen), "chosen == ShelfChosen"}); }

@@ -49,6 +49,8 @@ bool InnerShelf::unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error) {
   }
   return report(reader, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, {elem_event_map, "SHF", __LINE__}, error);
 }
+lmx::elmx_error InnerShelf::marshal(lmx::c_xml_writer& writer, char const*) const { return marshal_child_elements(writer); }
+lmx::elmx_error InnerShelf::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerShelf::SelectBook() { selected_run<Book>(chosen, m_held, BookChosen); }
 Book const& InnerShelf::GetBook(std::size_t index) const { return run_at<Book>(m_held, {is_chosen(chosen, m_held, BookChosen), "chosen == BookChosen"}, index, "index < u.mBook->size()"); }
@@ -112,6 +114,14 @@ lmx::elmx_error Shelf::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "SHF", __LINE__, m_Id.is_set());
 }
 bool Shelf::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerShelf, true, {elem_event_map, "SHF", __LINE__}, error); }
+lmx::elmx_error Shelf::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Shelf::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_text_8);
+  write_attribute(writer, "B", m_Levels, spec_range_1_to_9_uint8);
+}
+lmx::elmx_error Shelf::marshal_child_elements(lmx::c_xml_writer& writer) const {
+  return write_wrappers(writer, mInnerShelf);
+}
 bool Shelf::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, !mInnerShelf.empty(), "BOK", __LINE__);
@@ -181,6 +191,14 @@ lmx::elmx_error Book::unmarshal_attributes_check(lmx::xmlReader& reader) {
   return check_required(reader, "BOK", __LINE__, m_Id.is_set() && m_Kind.is_set());
 }
 bool Book::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
+lmx::elmx_error Book::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
+void Book::marshal_attributes(lmx::c_xml_writer& writer) const {
+  write_attribute(writer, "A", m_Id, spec_text_8);
+  write_attribute(writer, "B", m_Kind, spec_one_of_1_2);
+}
+lmx::elmx_error Book::marshal_child_elements(lmx::c_xml_writer&) const {
+  return lmx::ELMX_OK;
+}
 bool Book::IsOccursOk(lmx::c_check_tracker* tracker) const {
   return check_occurs(tracker, m_Id.is_set(), "A", __LINE__) &&
          check_occurs(tracker, m_Kind.is_set(), "B", __LINE__);
