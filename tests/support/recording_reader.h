@@ -30,6 +30,8 @@ class RecordingReader : public lmx::xmlReader {
  public:
   RecordingReader(std::string const& path, Tolerance tolerance)
       : xmlReader(path.c_str()), m_tolerance(std::move(tolerance)) {}
+  RecordingReader(lmx::c_read& source, Tolerance tolerance)
+      : xmlReader(source), m_tolerance(std::move(tolerance)) {}
 
   lmx::elmx_error handle_error(lmx::elmx_error code, std::string const& item, char const*, int) override {
     note(m_reports, std::to_string(code) + ' ' + item);
