@@ -50,6 +50,13 @@ run("configuring by find_package" ${CMAKE_COMMAND} -S ${consumer} -B ${work_dir}
 run("building by find_package" ${CMAKE_COMMAND} --build ${work_dir}/by_cmake)
 run("the host built by find_package" ${work_dir}/by_cmake/consumer)
 
+# The example programs are such hosts too.
+run("configuring the examples" ${CMAKE_COMMAND} -S ${source_dir}/examples -B ${work_dir}/examples -G ${generator}
+    -D CMAKE_BUILD_TYPE=${build_type} -D CMAKE_CXX_COMPILER=${compiler} -D CMAKE_CXX_FLAGS=${flags}
+    -D CMAKE_PREFIX_PATH=${prefix})
+run("building the examples" ${CMAKE_COMMAND} --build ${work_dir}/examples)
+run("an example" ${work_dir}/examples/list_fields ${source_dir}/examples/sets/complete)
+
 find_program(pkg_config pkg-config REQUIRED)
 set(ENV{PKG_CONFIG_PATH} ${prefix}/${libdir}/pkgconfig)
 execute_process(COMMAND ${pkg_config} --cflags --libs isoxml OUTPUT_VARIABLE package_flags
