@@ -81,4 +81,6 @@ extern text_matcher const matcher_34;
 /// boolean|string|datetime|integer|decimal|list
 extern text_matcher const matcher_35;
 
+inline constexpr text_matcher const* matchers[] = {&matcher_0, &matcher_1, &matcher_2, &matcher_3, &matcher_4, &matcher_5, &matcher_6, &matcher_7, &matcher_8, &matcher_9, &matcher_10, &matcher_11, &matcher_12, &matcher_13, &matcher_14, &matcher_15, &matcher_16, &matcher_17, &matcher_18, &matcher_19, &matcher_20, &matcher_21, &matcher_22, &matcher_23, &matcher_24, &matcher_25, &matcher_26, &matcher_27, &matcher_28, &matcher_29, &matcher_30, &matcher_31, &matcher_32, &matcher_33, &matcher_34, &matcher_35};
+
 }  // namespace binding

@@ -102,15 +102,20 @@ lmx::elmx_error check_one_of(lmx::c_xml_reader& reader, std::string const& value
 
 /// A pattern as a table over printable ASCII. State 0 is the dead end, 1 the start.
 struct text_matcher {
+  char const* pattern;           ///< What it stands for.
   unsigned char const* classes;  ///< The class of each byte up to 127.
   unsigned char const* steps;    ///< `class_count` next states for each state.
   bool const* accepting;         ///< For each state, whether the text may end there.
   unsigned class_count;
+  unsigned state_count;
+
+  unsigned step(unsigned state, char c) const {
+    return steps[state * class_count + classes[static_cast<unsigned char>(c)]];
+  }
 
   bool matches(lmx::plain_text_view text) const {
     unsigned state = 1;
-    for (char const* p = text.begin; p != text.end; ++p)
-      state = steps[state * class_count + classes[static_cast<unsigned char>(*p)]];
+    for (char const* p = text.begin; p != text.end; ++p) state = step(state, *p);
     return accepting[state];
   }
 };

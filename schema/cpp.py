@@ -834,9 +834,11 @@ def pattern_names(schema):
 def matchers_header(schema):
     lines = banner("schema/rules.toml") + ["// Matchers of the patterns, for texts that are plain ASCII. Private to the library.", "#pragma once", "",
                                            '#include "isoxmllib/rules.h"', "", "namespace binding {", ""]
-    for pattern, index in pattern_names(schema).items():
+    patterns = pattern_names(schema)
+    for pattern, index in patterns.items():
         lines += [f"/// {pattern}", f"extern text_matcher const matcher_{index};"]
-    return lines + ["", "}  // namespace binding"]
+    return lines + ["", f"inline constexpr text_matcher const* matchers[] = {{{', '.join(f'&matcher_{index}' for index in patterns.values())}}};",
+                    "", "}  // namespace binding"]
 
 
 def matchers_source(schema):
@@ -849,7 +851,8 @@ def matchers_source(schema):
                   f"constexpr unsigned char steps_{index}[] = {{{',  '.join(rows)}}};",
                   f"constexpr bool accepting_{index}[] = {{{', '.join(str(int(accepts)) for accepts in automaton.accepting)}}};",
                   "}  // namespace",
-                  f"text_matcher const matcher_{index}{{classes_{index}, steps_{index}, accepting_{index}, {len(automaton.steps[0])}}};", ""]
+                  f"text_matcher const matcher_{index}{{{quoted(pattern)}, classes_{index}, steps_{index}, accepting_{index},",
+                  f"                                {len(automaton.steps[0])}, {len(automaton.steps)}}};", ""]
     return lines + ["}  // namespace binding"]
 
 
