@@ -96,28 +96,31 @@ bool scan_integer(lmx::plain_text_view text, std::int64_t* value) {
 }
 
 bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range) {
-  constexpr std::ptrdiff_t most_whole_digits = 9;
+  constexpr unsigned too_great = 100000000;  // one digit more still fits into the number
   char const* p = text.begin;
-  bool const is_negative = p != text.end && *p == '-';
+  char const* const end = text.end;
+  bool const is_negative = p != end && *p == '-';
   if (is_negative) ++p;
   char const* const whole_begin = p;
   unsigned whole = 0;
-  char const* const whole_end =
-      text.end - whole_begin > most_whole_digits ? whole_begin + most_whole_digits : text.end;
-  for (; p != whole_end; ++p) {
+  for (; p != end; ++p) {
     unsigned const digit = static_cast<unsigned char>(*p) - unsigned{'0'};
     if (digit > 9) break;
+    if (whole >= too_great) return false;
     whole = whole * 10 + digit;
   }
   if (p == whole_begin || (*whole_begin == '0' && p - whole_begin > 1)) return false;
   if (is_negative ? whole >= range.negative_below : whole < range.least || whole >= range.below) return false;
-  if (p != text.end) {
-    if (*p != '.' || ++p == text.end) return false;
-    while (text.end - p >= 8 && lmx::words::are_digits(lmx::words::load(p))) p += 8;
-    while (p != text.end && lmx::is_digit(*p)) ++p;
-    if (p != text.end) return false;
+  if (p != end) {
+    if (*p != '.' || ++p == end) return false;
+    for (; end - p >= 8; p += 8) {
+      if (!lmx::words::are_digits(lmx::words::load(p))) return false;
+    }
+    for (; p != end; ++p) {
+      if (static_cast<unsigned char>(*p) - unsigned{'0'} > 9) return false;
+    }
   }
-  value.set_canonical(text.begin, text.end);
+  value.set_canonical(text.begin, end);
   return true;
 }
 

@@ -10,7 +10,7 @@ using namespace binding;
 
 namespace {
 
-// Compiled once, when the library is loaded.
+// Each is compiled when a text first asks for it.
 lmx::c_regex const pattern_0("((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e]))){7}(([0-9]|[A-F]|[a-f])([0-9]|[A-F]|[a-f]))*");
 lmx::c_regex const pattern_1("((([0-9]|[a-e]|[A-E])([0-9]|[a-f]|[A-F]))|((F|f)([0-9]|[a-e]|[A-E]))){7}(([0-9]|[a-f]|[A-F])([0-9]|[a-f]|[A-F]))*");
 lmx::c_regex const pattern_2("((BSN|CCT|CCG|CLD|CTP|CPC|CTR|DVC|FRM|GGP|GPN|OTQ|PFD|PDT|PGP|PLN|TSK|VPN|WKR)(|-)([0-9])+)|(([0-9A-Z]){1,10}\\.([0-9A-Z.]){1,10})");

@@ -747,7 +747,7 @@ def validators_source(schema):
     lines = banner("schema/rules.toml") + includes(["isoxmllib/validators.h"]) + [""] + includes(["isoxmllib/rules.h", "isoxmllib/specs.h"])
     lines += ["", "using namespace binding;", "", "namespace {", ""]
     if patterns:
-        lines += ["// Compiled once, when the library is loaded."]
+        lines += ["// Each is compiled when a text first asks for it."]
         lines += [f"lmx::c_regex const pattern_{index}({quoted(pattern)});" for pattern, index in patterns.items()] + [""]
     if bounds:
         lines += [f"lmx::c_big_int const {bound_name(bound)}({quoted(bound)});" for bound in bounds] + [""]

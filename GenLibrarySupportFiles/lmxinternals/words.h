@@ -1,11 +1,14 @@
-// Eight bytes of text at a time. Everything here gives the same on every machine; what byte order decides is
-// only how a stop inside a word is found.
+// Eight or sixteen bytes of text at a time. Everything here gives the same on every machine.
 //
 // Private to the library.
 #pragma once
 
 #include <cstdint>
 #include <cstring>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace lmx::words {
 
@@ -41,6 +44,32 @@ inline unsigned before_mark(std::uint64_t marks) {
   (void)marks;
   return 0;  // a loop over single bytes finds it
 #endif
+}
+
+/// The first byte from `p` on that is `quote`, "&" or unprintable. It may stop early, where fewer bytes than
+/// a word are left.
+inline unsigned char const* skip_literal(unsigned char const* p, unsigned char const* end,
+                                         unsigned char quote) {
+#if defined(__SSE2__)
+  __m128i const quotes = _mm_set1_epi8(static_cast<char>(quote));
+  __m128i const ampersands = _mm_set1_epi8('&');
+  __m128i const deletes = _mm_set1_epi8(0x7F);
+  __m128i const least = _mm_set1_epi8(' ');
+  for (; end - p >= 16; p += 16) {
+    __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p));
+    __m128i const stops =  // as signed numbers, bytes beyond ASCII are less than a blank too
+        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, quotes), _mm_cmpeq_epi8(bytes, ampersands)),
+                     _mm_or_si128(_mm_cmpeq_epi8(bytes, deletes), _mm_cmplt_epi8(bytes, least)));
+    unsigned const marks = static_cast<unsigned>(_mm_movemask_epi8(stops));
+    if (marks != 0) return p + __builtin_ctz(marks);
+  }
+#endif
+  for (; end - p >= 8; p += 8) {
+    std::uint64_t const word = load(p);
+    std::uint64_t const marks = marks_of(word, quote) | marks_of(word, '&') | marks_of_unprintable(word);
+    if (marks != 0) return p + before_mark(marks);
+  }
+  return p;
 }
 
 /// True when all eight bytes are "0" to "9".

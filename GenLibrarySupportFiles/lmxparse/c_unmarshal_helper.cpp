@@ -7,7 +7,7 @@ c_unmarshal_helper::c_unmarshal_helper(c_xml_reader& reader)
   std::string const& name = reader.m_name;
   std::vector<char>& stack = reader.m_name_stack;
   reader.m_name_offsets.push_back(m_name_offset);
-  for (std::size_t i = 0; i <= name.size(); ++i) stack.push_back(name.c_str()[i]);
+  stack.insert(stack.end(), name.c_str(), name.c_str() + name.size() + 1);
 }
 
 c_unmarshal_helper::~c_unmarshal_helper() {

@@ -47,14 +47,8 @@ unsigned char const* skip_name(unsigned char const* p, unsigned char const* end)
 
 // The first byte that is `quote` or must not be taken in bulk.
 unsigned char const* skip_value(unsigned char const* p, unsigned char const* end, unsigned char quote) {
-  for (; end - p >= 8; p += 8) {
-    const std::uint64_t word = words::load(p);
-    const std::uint64_t marks =
-        words::marks_of(word, quote) | words::marks_of(word, '&') | words::marks_of_unprintable(word);
-    if (marks == 0) continue;
-    p += words::before_mark(marks);
-    break;
-  }
+  p = words::skip_literal(p, end, quote);
+  if (p != end && *p == quote) return p;
   while (p != end && *p != quote && (is_in_class(*p, plain_literal) || *p == '"' || *p == '\'')) ++p;
   return p;
 }
@@ -178,43 +172,45 @@ unsigned char const* c_xml::p_scan_plain_attributes(byte_window window, bool tak
   m_plain_fetches = m_getter.fetches();
   unsigned char const* p = window.begin;
   unsigned char const* const end = window.end;
+  std::size_t count = 0;
   for (;;) {
     if (*p == ' ') ++p;  // nearly always the only one
     if (p != end && *p <= ' ') p = skip_space(p, end, line_feeds);
-    if (end - p < 2) break;
-    if (*p == '>' || (*p == '/' && p[1] == '>')) return p;
-    if (!is_in_class(*p, plain_name_start)) break;
+    if (end - p < 2) return nullptr;
+    if (*p == '>' || (*p == '/' && p[1] == '>')) {
+      m_plain_count = count;
+      return p;
+    }
+    if (!is_in_class(*p, plain_name_start) || count == most_plain_attributes) return nullptr;
     unsigned char const* const name = p;
     p = p[1] == '=' ? p + 1 : skip_name(p, end);
     const std::size_t name_length = distance(name, p);
-    if (end - p < 3 || *p != '=') break;
-    const unsigned char quote = *++p;
-    if (quote != '"' && quote != '\'') break;
-    if (!take_declarations && declares_namespace(as_chars(name), name_length)) break;
-    unsigned char const* const value = ++p;
-    p = skip_value(p, end, quote);
-    if (p == end || *p != quote) break;
-    m_plain.push_back({as_chars(name), name_length, distance(value, p)});
-    if (++p == end) break;
+    if (end - p < 3 || *p != '=') return nullptr;
+    const unsigned char quote = p[1];
+    if (quote != '"' && quote != '\'') return nullptr;
+    if (!take_declarations && declares_namespace(as_chars(name), name_length)) return nullptr;
+    unsigned char const* const value = p + 2;
+    p = skip_value(value, end, quote);
+    if (p == end || *p != quote) return nullptr;
+    m_plain[count++] = {as_chars(name), name_length, distance(value, p)};
+    if (++p == end) return nullptr;
   }
-  p_forget_plain_attributes();
-  return nullptr;
 }
 
 // For those that look at captured attributes as a whole.
 void c_xml::p_copy_plain_attributes() {
-  if (m_plain.empty()) return;
+  if (m_plain_count == 0) return;
   if (p_is_plain()) {
     std::string& data = m_attributes.m_data;
     data.clear();
     m_attributes.m_index = 0;
-    for (std::size_t i = 0; i != m_plain.size(); ++i) {
+    for (std::size_t i = 0; i != m_plain_count; ++i) {
       if (i == m_plain_next) m_attributes.m_index = data.size();
       data.append(m_plain[i].name, m_plain[i].name_length).push_back('\0');
       if (m_plain_value_pending && i + 1 == m_plain_next) m_attributes.m_index = data.size();
       data.append(m_plain[i].value() - 1, m_plain[i].value_length + 1).push_back('\0');
     }
-    if (!m_plain_value_pending && m_plain_next == m_plain.size()) m_attributes.m_index = data.size();
+    if (!m_plain_value_pending && m_plain_next == m_plain_count) m_attributes.m_index = data.size();
     m_attributes.close();
   }
   p_forget_plain_attributes();

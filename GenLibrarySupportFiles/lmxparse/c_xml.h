@@ -111,8 +111,8 @@ class ISOXML_API c_xml {
   /// The next attribute, when it lies in the source's buffer as it is, its value ASCII without references
   /// and line ends; null when it does not, or none is left. Borrowed until anything else is read.
   plain_attribute const* next_plain_attribute() const {
-    return m_plain_next != m_plain.size() && m_plain_fetches == m_getter.fetches() ? &m_plain[m_plain_next]
-                                                                                   : nullptr;
+    return m_plain_next != m_plain_count && m_plain_fetches == m_getter.fetches() ? &m_plain[m_plain_next]
+                                                                                  : nullptr;
   }
   /// Counts that attribute as named and its value as read under `mode`.
   void take_plain_attribute(elmx_whitespace mode) {
@@ -197,10 +197,10 @@ class ISOXML_API c_xml {
   bool p_select_input_entity(std::string* out);
   elxp_xml_event p_get_plain_item(c_xml_local const* local, std::string* name);
   unsigned char const* p_scan_plain_attributes(byte_window window, bool take_declarations, int* line_feeds);
-  bool p_is_plain() const { return !m_plain.empty() && m_plain_fetches == m_getter.fetches(); }
+  bool p_is_plain() const { return m_plain_count != 0 && m_plain_fetches == m_getter.fetches(); }
   void p_copy_plain_attributes();
   void p_forget_plain_attributes() {
-    m_plain.clear();
+    m_plain_count = 0;
     m_plain_next = 0;
     m_plain_value_pending = false;
   }
@@ -225,7 +225,10 @@ class ISOXML_API c_xml {
   bool m_attributes_cut_off = false;
   c_attribute_data m_attributes;
   c_attribute_data m_ns_attributes;
-  std::vector<plain_attribute> m_plain;  // in place of `m_attributes`, for a tag that lies in the buffer
+  // In place of `m_attributes`, for a tag that lies in the buffer. More attributes are not plain.
+  static constexpr std::size_t most_plain_attributes = 32;
+  plain_attribute m_plain[most_plain_attributes];
+  std::size_t m_plain_count = 0;
   std::size_t m_plain_next = 0;
   bool m_plain_value_pending = false;      // the attribute before `m_plain_next` has only been named
   unsigned long long m_plain_fetches = 0;  // when the source was asked for more since, they are gone

@@ -102,23 +102,36 @@ elmx_error c_xml_reader::report_attribute_error(elmx_error code) {
 
 void c_xml_reader::tokenise(s_event_map const* map, elxp_attr_elem kind) {
   if (!is_name_event(m_event)) return;
+  if (kind == EXAE_ELEMENT && map == mp_tokenised_in && map != nullptr) {
+    m_event = m_tokenised_event;
+    return;
+  }
   // An unprefixed attribute is in no namespace, whatever the default is.
   const bool is_plain_attribute = kind == EXAE_ATTRIBUTE && !m_cracked_name.has_prefix();
   const int ns_id = is_plain_attribute ? static_cast<int>(nsid_none) : m_cracked_name.ns_id();
   s_event_map const* const row = find_row(ns_id == nsid_xsi ? xsi_attributes : map, ns_id,
                                           m_cracked_name.local_name(), m_cracked_name.local_length());
   m_event = row == nullptr ? static_cast<int>(EXE_UNKNOWN) : row->m_event;
+  if (kind == EXAE_ELEMENT) {
+    mp_tokenised_in = map;
+    m_tokenised_event = m_event;
+  }
 }
 
 int c_xml_reader::tokenise(s_event_map const* map, std::string const& name, elxp_attr_elem kind) {
-  m_cracked_name.set(mp_local, name);
+  p_crack_element_name(name);
   tokenise(map, kind);
   return m_event;
 }
 
-bool c_xml_reader::p_is_known_element() const {
-  return find_row(mp_known_elements, m_cracked_name.get_element_ns_id(), m_cracked_name.local_name(),
-                  m_cracked_name.local_length()) != nullptr;
+bool c_xml_reader::p_is_known_element() {
+  if (mp_known_in == mp_known_elements) return true;
+  if (find_row(mp_known_elements, m_cracked_name.get_element_ns_id(), m_cracked_name.local_name(),
+               m_cracked_name.local_length()) == nullptr) {
+    return false;
+  }
+  mp_known_in = mp_known_elements;
+  return true;
 }
 
 void c_xml_reader::set_ns_map(s_ns_map const* map) {
@@ -145,6 +158,8 @@ bool c_xml_reader::get_attribute_event(s_event_map const* map, elmx_error* error
     default: return false;
   }
   m_cracked_name.set_for_attribute(mp_local, *name);
+  mp_known_in = nullptr;
+  mp_tokenised_in = nullptr;
   if (map != nullptr) tokenise(map, EXAE_ATTRIBUTE);
   return true;
 }
@@ -171,7 +186,7 @@ void c_xml_reader::get_element_event(elmx_error* error, std::string* name) {
         return;
       default: return;
     }
-    m_cracked_name.set(mp_local, *name);
+    p_crack_element_name(*name);
     if (mp_known_elements == nullptr || p_is_known_element()) return;
     *error = on_unknown_element(*name, m_name_stack, m_code_file, m_code_line);
     if (*error != ELMX_OK) {

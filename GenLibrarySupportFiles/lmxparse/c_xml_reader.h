@@ -168,11 +168,20 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   stack_guard m_stack_guard;                            ///< Refuses elements that nest too deep.
 
  private:
-  bool p_is_known_element() const;
+  bool p_is_known_element();
+  void p_crack_element_name(std::string const& name) {
+    if (!m_cracked_name.set(mp_local, name)) return;
+    mp_known_in = nullptr;
+    mp_tokenised_in = nullptr;
+  }
 
   c_xml_reader_local m_root_local;
   s_debug_error m_debug_error;
   c_cracked_name m_cracked_name;
+  // What the last look-ups of this very name have found: siblings come in long runs.
+  s_known_elements const* mp_known_in = nullptr;  // the table that has it
+  s_event_map const* mp_tokenised_in = nullptr;   // the table that gave it `m_tokenised_event`
+  int m_tokenised_event = EXE_UNKNOWN;
   std::vector<std::pair<std::string, std::string>> m_namespace_mappings;
 };
 

@@ -124,8 +124,8 @@ class ISOXML_API c_xml_local {
 /// A name taken apart at its first colon.
 class ISOXML_API c_cracked_name {
  public:
-  /// Cracks an element's name as it stands in the scope `local`.
-  void set(c_xml_local const* local, std::string const& name);
+  /// Cracks an element's name as it stands in the scope `local`. False when nothing has changed by it.
+  bool set(c_xml_local const* local, std::string const& name);
   /// The same for an attribute: without a prefix it is in no namespace.
   void set_for_attribute(c_xml_local const* local, std::string const& name);
 

@@ -51,9 +51,14 @@ xmlChar const* engine_text(std::string const& text) { return reinterpret_cast<xm
 
 }  // namespace
 
-c_regex::c_regex(std::string const& pattern) : mp_regexp(nullptr) {
-  c_silent_libxml2 const silence;
-  mp_regexp = xmlRegexpCompile(engine_text(pattern));
+c_regex::c_regex(std::string pattern) : m_pattern(std::move(pattern)) {}
+
+_xmlRegexp* c_regex::p_compiled() const {
+  std::call_once(m_compiled, [this] {
+    c_silent_libxml2 const silence;
+    mp_regexp = xmlRegexpCompile(engine_text(m_pattern));
+  });
+  return mp_regexp;
 }
 
 c_regex::~c_regex() {
@@ -62,7 +67,8 @@ c_regex::~c_regex() {
 
 bool c_regex::is_match(std::string const& text) const {
   // Kept: a negative result is the engine's own error, and existing data passes by it.
-  return mp_regexp != nullptr && xmlRegexpExec(mp_regexp, engine_text(text)) != 0;
+  _xmlRegexp* const compiled = p_compiled();
+  return compiled != nullptr && xmlRegexpExec(compiled, engine_text(text)) != 0;
 }
 
 }  // namespace lmx

@@ -1,6 +1,7 @@
 // The pattern facet: a compiled XSD regular expression.
 #pragma once
 
+#include <mutex>
 #include <string>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -9,14 +10,14 @@ struct _xmlRegexp;  // libxml2's compiled expression; hosts need none of its hea
 
 namespace lmx {
 
-/// A regular expression of XML Schema (XSD part 2, appendix F), compiled once and matched against whole
-/// texts. Threads: matching only reads the expression, so one object serves any number of threads.
+/// A regular expression of XML Schema (XSD part 2, appendix F), matched against whole texts. It is compiled
+/// once, when it is first asked. Threads: one object serves any number of threads.
 class ISOXML_API c_regex {
  public:
-  /// Compiles `pattern`, up to a NUL inside it. A pattern that does not compile throws and prints nothing:
-  /// the object then matches no text. The calling thread's libxml2 error handler, its context and the last
-  /// error stay as the host left them.
-  explicit c_regex(std::string const& pattern);
+  /// Takes `pattern`, up to a NUL inside it. A pattern that does not compile throws and prints nothing: the
+  /// object then matches no text. Compiling leaves the calling thread's libxml2 error handler, its context
+  /// and the last error as the host left them.
+  explicit c_regex(std::string pattern);
   virtual ~c_regex();
   c_regex(c_regex const&) = delete;
   c_regex& operator=(c_regex const&) = delete;
@@ -26,7 +27,11 @@ class ISOXML_API c_regex {
   bool is_match(std::string const& text) const;
 
  private:
-  _xmlRegexp* mp_regexp;  // owned; null if the pattern did not compile
+  _xmlRegexp* p_compiled() const;
+
+  const std::string m_pattern;
+  mutable std::once_flag m_compiled;
+  mutable _xmlRegexp* mp_regexp = nullptr;  // owned; null until it is compiled, or if it does not compile
 };
 
 }  // namespace lmx
