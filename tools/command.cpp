@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
+#include "tools/views.h"
+
 namespace {
 
 struct Command {
@@ -14,6 +16,15 @@ struct Command {
 constexpr Command commands[] = {
     {"check", "Tell of transfer sets and lone documents whether they read", prepare_check},
     {"info", "Show what a transfer set consists of, and which documents failed", prepare_info},
+    {"growers", "List the growers, who are the customers", prepare_view<show_growers>},
+    {"farms", "List the farms", prepare_view<show_farms>},
+    {"fields", "List the fields with their geometry", prepare_fields},
+    {"products", "List the products", prepare_view<show_products>},
+    {"crops", "List the crop types and their varieties", prepare_view<show_crops>},
+    {"tasks", "List the tasks", prepare_view<show_tasks>},
+    {"rx", "Show what tasks prescribe: treatment zones and their values", prepare_rx},
+    {"questions", "List the questions to the operator, with the replies", prepare_view<show_questions>},
+    {"devices", "List the devices", prepare_view<show_devices>},
 };
 
 }  // namespace

@@ -2,7 +2,7 @@
 // so what names the set stands in one place; a command adds options of its own and says what it does.
 //
 // A new command is a source file with its `prepare_...` function, a declaration here and a row in
-// command.cpp.
+// command.cpp; one that only lists what a view gives is a function in views.cpp and a row in command.cpp.
 #pragma once
 
 #include <functional>
@@ -34,7 +34,9 @@ std::string refuse_empty(std::string const& text);
 
 // Each adds the command's options to `options`, and gives what runs the command after parsing.
 RunCommand prepare_check(CLI::App& options);
+RunCommand prepare_fields(CLI::App& options);
 RunCommand prepare_info(CLI::App& options);
+RunCommand prepare_rx(CLI::App& options);
 
 /// Adds every command to `app`. The one that the command line chooses stores its outcome in `status`, which
 /// has to live until parsing ends.

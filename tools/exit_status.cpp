@@ -11,7 +11,9 @@ constexpr Row rows[] = {
     {ExitStatus::AllGood, "all documents of the set are good"},
     {ExitStatus::SomeFailed, "some documents failed, the rest is shown"},
     {ExitStatus::WrongUsage, "wrong usage"},
-    {ExitStatus::NoResult, "the main document could not be read, or the output could not be written"},
+    {ExitStatus::NoResult,
+     "no result: the main document could not be read, there is no such task, or the output could not be "
+     "written"},
 };
 
 }  // namespace

@@ -66,6 +66,19 @@ UUID links: 0
 """
 
 
+class Documentation(TransferSetTest):
+    def test_shows_what_the_program_prints(self):
+        text = (ROOT / "docs" / "command-line.md").read_text(encoding="utf-8")
+        examples = re.findall(r"^```console\n\$ isoxml (.+)\n((?:.*\n)*?)```$", text, flags=re.MULTILINE)
+        self.assertLessEqual({"growers", "farms", "fields", "products", "crops", "tasks", "rx", "questions", "devices"},
+                             {arguments.split()[0] for arguments, _ in examples})
+        for arguments, printed in examples:
+            with self.subTest(arguments):
+                outcome = run(*arguments.split(), cwd=ROOT)
+                self.expect(ALL_GOOD, outcome)
+                self.assertEqual(printed, outcome.text)
+
+
 class Examples(TransferSetTest):
     def test_complete_is_read_whole(self):
         outcome = run("info", COMPLETE, "--json")

@@ -11,7 +11,7 @@ Exit status:
   0  all documents of the set are good
   1  some documents failed, the rest is shown
   2  wrong usage
-  3  the main document could not be read, or the output could not be written
+  3  no result: the main document could not be read, there is no such task, or the output could not be written
 """
 
 
@@ -47,7 +47,9 @@ class Usage(TransferSetTest):
     def test_help_lists_commands_and_exit_statuses(self):
         outcome = run("--help")
         self.expect(ALL_GOOD, outcome)
-        self.assertRegex(outcome.text, r"(?m)^  info  ")
+        for command in ("check", "info", "growers", "farms", "fields", "products", "crops", "tasks", "rx", "questions",
+                        "devices"):
+            self.assertRegex(outcome.text, rf"(?m)^  {command}  ")
         self.assertIn(EXIT_STATUSES, outcome.text)
 
     def test_help_of_a_command_lists_its_options_and_exit_statuses(self):
