@@ -11,6 +11,7 @@
 
 #include "isoxmllib/isoxmllib.h"
 #include "tools/command.h"
+#include "tools/lone_document.h"
 #include "tools/output.h"
 #include "tools/set_report.h"
 
@@ -37,16 +38,7 @@ void check_set(std::string const& directory, std::string const& main_name,
 void check_document(std::string const& path, std::vector<IsoDocument>* verdicts) {
   Root root;
   lmx::xmlReader reader(path.c_str());
-  IsoDocument verdict{};
-  verdict.name = path;
-  verdict.role = IsoDocument::Role::External;
-  verdict.error = reader.isOpen() ? root.unmarshal(reader) : lmx::ELMX_NO_FILE;
-  verdict.line = reader.line();
-  if (verdict.error != lmx::ELMX_OK) {
-    verdict.item = reader.debug_error().m_item;
-    verdict.message = reader.get_error_message();
-  }
-  verdicts->push_back(std::move(verdict));
+  verdicts->push_back(read_document(reader, path, &root));
 }
 
 void print_text(std::vector<IsoDocument> const& verdicts) {

@@ -25,6 +25,8 @@ constexpr Command commands[] = {
     {"rx", "Show what tasks prescribe: treatment zones and their values", prepare_rx},
     {"questions", "List the questions to the operator, with the replies", prepare_view<show_questions>},
     {"devices", "List the devices", prepare_view<show_devices>},
+    {"format", "Rewrite a document in one layout, on standard output", prepare_format},
+    {"new", "Make a minimal transfer set to begin from", prepare_new},
 };
 
 }  // namespace

@@ -35,7 +35,9 @@ std::string refuse_empty(std::string const& text);
 // Each adds the command's options to `options`, and gives what runs the command after parsing.
 RunCommand prepare_check(CLI::App& options);
 RunCommand prepare_fields(CLI::App& options);
+RunCommand prepare_format(CLI::App& options);
 RunCommand prepare_info(CLI::App& options);
+RunCommand prepare_new(CLI::App& options);
 RunCommand prepare_rx(CLI::App& options);
 
 /// Adds every command to `app`. The one that the command line chooses stores its outcome in `status`, which

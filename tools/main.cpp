@@ -1,6 +1,8 @@
 // The program `isoxml`: reads the command line, lets the chosen command work, and says by its exit status how
 // it went.
 #include <CLI/CLI.hpp>
+#include <csignal>
+#include <exception>
 #include <iostream>
 #include <new>
 
@@ -41,11 +43,16 @@ ExitStatus run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A reader that went away, or a full file, is an output that could not be written, and is told as one.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
   ExitStatus status = ExitStatus::NoResult;
   try {
     status = run(argc, argv);
   } catch (std::bad_alloc const&) {
     std::cerr << "isoxml: out of memory\n";
+  } catch (std::exception const& error) {
+    std::cerr << "isoxml: " << escape(error.what()) << '\n';
   }
   std::cout.flush();
   if (!std::cout) {
