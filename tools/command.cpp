@@ -14,6 +14,7 @@ struct Command {
 constexpr Command commands[] = {
     {"check", "Tell of transfer sets and lone documents whether they read", prepare_check},
     {"info", "Show what a transfer set consists of, and which documents failed", prepare_info},
+    {"map", "Write a page with a map of the set's fields and prescriptions", prepare_map},
 };
 
 }  // namespace

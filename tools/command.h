@@ -35,6 +35,7 @@ std::string refuse_empty(std::string const& text);
 // Each adds the command's options to `options`, and gives what runs the command after parsing.
 RunCommand prepare_check(CLI::App& options);
 RunCommand prepare_info(CLI::App& options);
+RunCommand prepare_map(CLI::App& options);
 
 /// Adds every command to `app`. The one that the command line chooses stores its outcome in `status`, which
 /// has to live until parsing ends.
