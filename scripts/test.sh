@@ -4,6 +4,6 @@
 set -eu
 . "$(dirname -- "$0")/lib.sh"
 
-prepare_tests clang-format
+prepare_tests clang-format chromium chromium-driver
 build_preset release
 exec ctest --preset release --no-tests=error

@@ -27,6 +27,7 @@ constexpr Command commands[] = {
     {"devices", "List the devices", prepare_view<show_devices>},
     {"format", "Rewrite a document in one layout, on standard output", prepare_format},
     {"new", "Make a minimal transfer set to begin from", prepare_new},
+    {"map", "Write a page with a map of the set's fields and prescriptions", prepare_map},
 };
 
 }  // namespace

@@ -37,6 +37,7 @@ RunCommand prepare_check(CLI::App& options);
 RunCommand prepare_fields(CLI::App& options);
 RunCommand prepare_format(CLI::App& options);
 RunCommand prepare_info(CLI::App& options);
+RunCommand prepare_map(CLI::App& options);
 RunCommand prepare_new(CLI::App& options);
 RunCommand prepare_rx(CLI::App& options);
 

@@ -212,7 +212,7 @@ RunCommand prepare_fields(CLI::App& options) {
   return [arguments, is_json, is_geojson] {
     return run_on_set(*arguments, [&](IsoXmlParser& set) {
       if (*is_geojson) {
-        print_json(fields_geojson(set), std::cout);
+        print_geojson(fields_geojson(set), std::cout);
       } else {
         print_list(field_rows(set), field_columns(), form_of(*is_json));
       }

@@ -169,7 +169,7 @@ ExitStatus show_rx(IsoXmlParser const& set, RxArguments const& arguments) {
   Maps maps = maps_of(set, arguments.task_id);
   const bool is_unknown = !arguments.task_id.empty() && maps.empty();
   if (*arguments.is_geojson) {
-    print_json(rx_geojson(set, arguments.task_id), std::cout);
+    print_geojson(rx_geojson(set, arguments.task_id), std::cout);
   } else {
     print_maps(std::move(maps), form_of(*arguments.is_json));
   }

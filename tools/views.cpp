@@ -10,6 +10,7 @@
 
 #include "isoxmllib/isoxmllib.h"
 #include "tools/set_report.h"
+#include "tools/task_state.h"
 #include "transfer/IsoXmlParser.h"
 
 namespace {
@@ -243,15 +244,12 @@ Json count_zones(TaskRow const& row) {
   return count;
 }
 
-constexpr char const* task_states[] = {"planned", "running", "paused", "completed", "template", "cancelled"};
-
 Columns<TaskRow> task_columns(IsoXmlParser const& set) {
   return {
       {"id", "Id", &TaskRow::id},
       {"designator", "Name", &TaskRow::designator},
       {"status", nullptr, [](TaskRow const& row) { return row.element->GetStatus(); }},
-      {nullptr, "Status",
-       [](TaskRow const& row) { return meaning_of(row.element->GetStatus(), task_states); }},
+      {nullptr, "Status", [](TaskRow const& row) { return state_of(*row.element); }},
       {"customerIdRef", "Grower", &TaskRow::customerIdRef},
       {"farmIdRef", "Farm", &TaskRow::farmIdRef},
       {"fieldIdRef", "Field", &TaskRow::fieldIdRef},

@@ -156,13 +156,52 @@ def make(directory, seed, size, profile="mixed"):
     write_links(directory / "LINKLIST.XML", [name for name in writer.links if name[:3] in linkable], rng)
 
 
+def ring(north, east, radius, count, rng, turn=1):
+    """A closed ring of `count` points about a place, as XML; its form is round but uneven."""
+    wobble = [rng.uniform(0.9, 1.0) for _ in range(3)]
+    points = []
+    for i in list(range(count)) + [0]:
+        angle = turn * 2 * math.pi * i / count
+        reach = radius * (wobble[0] + 0.1 * wobble[1] * math.sin(3 * angle) + 0.05 * wobble[2] * math.cos(7 * angle))
+        points.append(f'<PNT A="2" C="{north + reach * math.sin(angle):.9f}" '
+                      f'D="{east + reach * math.cos(angle) / math.cos(math.radians(north)):.9f}"/>')
+    return "".join(points)
+
+
+def make_farm(directory, seed, fields, points):
+    """Writes a set of that many fields side by side, each bounded by that many points and with a hole, and one task with
+    a zone for each of the first hundred."""
+    directory.mkdir(parents=True, exist_ok=True)
+    rng = random.Random(seed)
+    across = math.ceil(math.sqrt(fields))
+    with open(directory / "TASKDATA.XML", "w", encoding="utf-8") as file:
+        file.write(header("ISO11783_TaskData"))
+        file.write('  <CTR A="CTR1" B="Generated"/>\n  <FRM A="FRM1" B="Home" I="CTR1"/>\n')
+        file.write('  <VPN A="VPN1" B="0" C="0.01" D="1" E="l/ha"/>\n')
+        zones = []
+        for i in range(fields):
+            north, east = 52.0 + 0.004 * (i // across), 9.0 + 0.0065 * (i % across)
+            area = f'<PLN A="1"><LSG A="1">{ring(north, east, 0.0017, points, rng)}</LSG>'
+            hole = f'<LSG A="2">{ring(north, east, 0.0003, 12, rng, -1)}</LSG></PLN>'
+            file.write(f'  <PFD A="PFD{i + 1}" C="Field {i + 1}" D="100000" E="CTR1" F="FRM1">{area}{hole}</PFD>\n')
+            if i < 100:
+                zone = f'<PLN A="2"><LSG A="1">{ring(north, east, 0.0012, points, rng)}</LSG></PLN>'
+                zones.append(f'<TZN A="{i + 1}">{zone}<PDV A="0001" B="{rng.randrange(5000, 25000)}" E="VPN1"/></TZN>')
+        file.write(f'  <TSK A="TSK1" B="All zones" G="1">{"".join(zones)}</TSK>\n</ISO11783_TaskData>\n')
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("directory", type=Path)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--size", type=int, default=100_000, help="bytes, about")
     parser.add_argument("--profile", choices=PROFILES, default="mixed")
+    parser.add_argument("--farm", nargs=2, type=int, metavar=("FIELDS", "POINTS"),
+                        help="instead, so many fields of so many points, side by side")
     arguments = parser.parse_args()
+    if arguments.farm:
+        make_farm(arguments.directory, arguments.seed, *arguments.farm)
+        return
     make(arguments.directory, arguments.seed, arguments.size, arguments.profile)
 
 

@@ -51,6 +51,16 @@ class GeneratedSets(unittest.TestCase):
         size = sum(len(text) for text in contents(self.make(seed=1, size=300_000)).values())
         self.assertTrue(300_000 <= size <= 600_000, size)
 
+    def test_a_farm_has_the_fields_and_points_that_were_asked_for(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        transfer_set.make_farm(Path(folder.name), seed=1, fields=120, points=25)
+        outcome = self.check(folder.name)
+        self.assertEqual(0, outcome.returncode, outcome.stdout)
+        text = contents(Path(folder.name))["TASKDATA.XML"]
+        self.assertEqual((120, 100), (text.count("<PFD "), text.count("<TZN ")))
+        self.assertEqual(120 * (26 + 13) + 100 * 26, text.count("<PNT "))
+
     def test_the_same_seed_gives_the_same_set(self):
         one = contents(self.make(seed=4, size=50_000))
         self.assertEqual(one, contents(self.make(seed=4, size=50_000)))
