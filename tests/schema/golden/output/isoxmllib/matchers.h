@@ -9,4 +9,6 @@
 namespace binding {
 
 
+inline constexpr text_matcher const* matchers[] = {};
+
 }  // namespace binding
