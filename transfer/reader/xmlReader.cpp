@@ -23,7 +23,9 @@ P917Metadata* keep(std::unique_ptr<P917Metadata> clone) {
 
 }  // namespace
 
-xmlReader::xmlReader(char const* fileName) : detail::file_input(fileName), c_xml_reader(fileInput, true) {}
+xmlReader::xmlReader(char const* fileName) : detail::reader_input(fileName), c_xml_reader(input, true) {}
+
+xmlReader::xmlReader(c_read& source) : detail::reader_input(source), c_xml_reader(input, true) {}
 
 xmlReader::~xmlReader() = default;
 

@@ -4,6 +4,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse/c_read.h"
@@ -16,25 +18,29 @@ namespace lmx {
 
 namespace detail {
 
-/// Holds the file, so that it is there before the reader over it and outlives it.
-struct ISOXML_API file_input {
-  explicit file_input(char const* fileName) : fileInput(fileName) {}
-  c_read_file fileInput;
+/// Holds the file, if the reader opened one, so that it is there before the reader over it and outlives it.
+struct ISOXML_API reader_input {
+  explicit reader_input(char const* fileName) : fileInput(std::in_place, fileName), input(*fileInput) {}
+  explicit reader_input(c_read& source) : input(source) {}
+  std::optional<c_read_file> fileInput;
+  c_read& input;
 };
 
 }  // namespace detail
 
-/// Reads one file. The lists hold borrowed pointers in the order in which the elements ended: they belong
+/// Reads one document. The lists hold borrowed pointers in the order in which the elements ended: they belong
 /// to the element tree and die with it. After a failed read none of them may be used.
 /// Threads: one at a time. The file stays open until destruction.
-class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
+class ISOXML_API xmlReader : private detail::reader_input, public c_xml_reader {
  public:
   /// Opens `fileName`. A failed open throws nothing and reports nothing: ask `isOpen`.
   explicit xmlReader(char const* fileName);
+  /// Reads from a source of the host's own, which is borrowed and must outlive the reader.
+  explicit xmlReader(c_read& source);
   ~xmlReader() override;
 
-  /// True when the file could be opened.
-  bool isOpen() const { return fileInput.is_open(); }
+  /// True when the file could be opened, or what the host's source says.
+  bool isOpen() const { return input.is_open(); }
 
   // Called by element classes at their end, when nothing went wrong. The pointers are borrowed.
   void addNewGrower(Grower* grower) { growers.push_back(grower); }
