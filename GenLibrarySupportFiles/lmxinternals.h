@@ -1,4 +1,5 @@
-// The containers behind the fields of the element classes, and the bridges through which they are read.
+// The containers behind the fields of the element classes, and the bridges through which they are read
+// and written.
 #pragma once
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"              // IWYU pragma: export
@@ -8,4 +9,5 @@
 #include "GenLibrarySupportFiles/lmxinternals/check_tracker.h"    // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxinternals/choice.h"           // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxinternals/containers.h"       // IWYU pragma: export
+#include "GenLibrarySupportFiles/lmxinternals/list_bridges.h"     // IWYU pragma: export
 #include "GenLibrarySupportFiles/lmxinternals/marshal_bridges.h"  // IWYU pragma: export

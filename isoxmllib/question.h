@@ -135,8 +135,8 @@ class ISOXML_API P917Question {
   /// Extension: one of the answers among which the operator can choose. Element "P917_Option", repeated.
   std::string const& GetOption(std::size_t index) const { LMX_ASSERT(index < m_Option.size()); return m_Option[index]; }
   lmx::elmx_error SetOption(std::size_t index, std::string const& value) { LMX_ASSERT(index < m_Option.size()); m_Option[index] = value; return lmx::ELMX_OK; }
-  void AppendOption(std::string const& value) { m_Option.append() = value; }
-  void InsertOption(std::size_t index, std::string const& value) { LMX_ASSERT(index <= m_Option.size()); m_Option.insert(index) = value; }
+  void AppendOption(std::string const& value) { m_Option.append(new std::string(value)); }
+  void InsertOption(std::size_t index, std::string const& value) { LMX_ASSERT(index <= m_Option.size()); m_Option.insert(index, new std::string(value)); }
   void DeleteOption(std::size_t index) { LMX_ASSERT(index < m_Option.size()); m_Option.erase(index); }
   void ClearOption() { m_Option.clear(); }
   std::size_t SizeOption() const { return m_Option.size(); }

@@ -54,8 +54,8 @@ def declare_value(element, value):
         return lines + [
             f"  {cpp_type} const& Get{name}(std::size_t index) const {{ LMX_ASSERT(index < m_{name}.size()); return m_{name}[index]; }}",
             f"  lmx::elmx_error Set{name}(std::size_t index, {cpp_type} const& value) {{ LMX_ASSERT(index < m_{name}.size()); m_{name}[index] = value; return lmx::ELMX_OK; }}",
-            f"  void Append{name}({cpp_type} const& value) {{ m_{name}.append() = value; }}",
-            f"  void Insert{name}(std::size_t index, {cpp_type} const& value) {{ LMX_ASSERT(index <= m_{name}.size()); m_{name}.insert(index) = value; }}",
+            f"  void Append{name}({cpp_type} const& value) {{ m_{name}.append(new {cpp_type}(value)); }}",
+            f"  void Insert{name}(std::size_t index, {cpp_type} const& value) {{ LMX_ASSERT(index <= m_{name}.size()); m_{name}.insert(index, new {cpp_type}(value)); }}",
             f"  void Delete{name}(std::size_t index) {{ LMX_ASSERT(index < m_{name}.size()); m_{name}.erase(index); }}",
             f"  void Clear{name}() {{ m_{name}.clear(); }}",
             f"  std::size_t Size{name}() const {{ return m_{name}.size(); }}",

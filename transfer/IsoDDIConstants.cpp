@@ -7,6 +7,7 @@
 std::string IsoDDIConstants::toPaddedHexString(int value, unsigned int width) {
   std::ostringstream text;
   text.imbue(std::locale::classic());  // another one might group the digits
+  text.exceptions(std::ios::badbit);   // or memory could run out unnoticed
   text << std::setfill('0') << std::setw(static_cast<int>(width)) << std::hex << value;
   return text.str();
 }

@@ -18,6 +18,7 @@
 namespace lmx {
 
 class c_untyped_unmarshal_bridge;
+class c_untyped_unmarshal_list_bridge;
 class c_xml_reader;
 struct c_untyped_validation_spec;
 
@@ -138,6 +139,22 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   /// The same from inside the start tag. With a map, the next sibling's event is read too.
   elmx_error unmarshal_child_element_impl(c_untyped_unmarshal_bridge& bridge,
                                           c_untyped_validation_spec const& spec, s_event_map const* map);
+
+  // The same for list-typed values, which no element class of this format has. `list_validator` checks the
+  // whole text; then each token passes the spec's text check and becomes an item of the bridge's list. The
+  // first refusal ends the list there.
+
+  elmx_error unmarshal_attribute_list_value_impl(c_untyped_unmarshal_list_bridge& bridge,
+                                                 c_untyped_validation_spec const& spec,
+                                                 elmx_error (*list_validator)(c_xml_reader& reader,
+                                                                              std::string const& text));
+  elmx_error unmarshal_element_list_value_impl(c_untyped_unmarshal_list_bridge& bridge,
+                                               c_untyped_validation_spec const& spec,
+                                               elmx_error (*list_validator)(c_xml_reader& reader,
+                                                                            std::string const& text));
+  elmx_error unmarshal_child_element_list_impl(
+      c_untyped_unmarshal_list_bridge& bridge, c_untyped_validation_spec const& spec,
+      elmx_error (*list_validator)(c_xml_reader& reader, std::string const& text), s_event_map const* map);
 
   /// Enters the namespaces of `map` and the mappings added before.
   void set_ns_map(s_ns_map const* map);

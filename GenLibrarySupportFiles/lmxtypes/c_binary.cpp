@@ -50,6 +50,7 @@ template <class Write>
 std::string collect(Write write) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
+  out.exceptions(std::ios::badbit);  // or the text could be cut off unnoticed when memory runs out
   write(out);
   return out.str();
 }

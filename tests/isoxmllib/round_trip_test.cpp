@@ -6,8 +6,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <ostream>
@@ -18,17 +16,14 @@
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/comma_locale.h"
 #include "support/document.h"
+#include "support/file_bytes.h"
 #include "support/writing.h"
 
 namespace {
 
 // ---- Whole documents ----
-
-std::string file_bytes(std::filesystem::path const& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
 
 class XmlTree {
  public:
@@ -132,6 +127,21 @@ TEST(RoundTrip, KeepsTheExampleSet) {
 
 TEST(RoundTrip, KeepsASetWithEveryClassAndAttribute) {
   EXPECT_EQ(6u, expect_round_trips(ISOXML_WRITTEN_SET));
+}
+
+TEST(RoundTrip, IsTheSameUnderALocaleWithCommas) {
+  for (auto const& entry : std::filesystem::directory_iterator(ISOXML_WRITTEN_SET)) {
+    const std::string document = file_bytes(entry.path());
+    const auto rewritten = [&] {
+      Root root;
+      EXPECT_EQ(0, read_document(root, document).code) << entry.path();
+      return written(root);
+    };
+    const std::string expected = rewritten();
+    const CommaLocale locale;
+    ASSERT_TRUE(CommaLocale::is_in_force());
+    EXPECT_TRUE(expected == rewritten()) << entry.path();
+  }
 }
 
 // ---- Losses ----

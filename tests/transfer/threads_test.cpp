@@ -3,12 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "isoxmllib/isoxmllib.h"
 #include "support/temp_dir.h"
+#include "support/views_text.h"
 #include "transfer/IsoXmlParser.h"
 
 namespace {
@@ -56,6 +60,36 @@ TEST(Threads, ReadTheSameSetAtOnce) {
     EXPECT_EQ("TSK0000138u", outcomes[i]);
     EXPECT_EQ("1", metadata[i]->GetVersion()) << "a clone outlives its parser";
   }
+}
+
+// What one parser shows and writes, eight of them do at once.
+TEST(Threads, ShowAndWriteTheSameSetAtOnce) {
+  const auto shown = [](std::string const& name) {
+    IsoXmlParser parser(ISOXML_EXAMPLE_SETS "/" + name, "TASKDATA");
+    return ViewsText(parser).text();
+  };
+  constexpr std::size_t count = 8;
+  for (std::string const name : {"complete", "broken-external"}) {
+    SCOPED_TRACE(name);
+    std::vector<std::string> texts(count);
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i != count; ++i) {
+      threads.emplace_back([&, i] { texts[i] = shown(name); });
+    }
+    for (std::thread& thread : threads) thread.join();
+    const std::string expected = shown(name);
+    EXPECT_NE("", expected);
+    for (std::string const& text : texts) EXPECT_EQ(expected, text);
+  }
+}
+
+// A parser may be made in one thread and used and destroyed in another.
+TEST(Threads, HandAParserOn) {
+  auto parser = std::make_unique<IsoXmlParser>(ISOXML_EXAMPLE_SETS "/complete", "TASKDATA");
+  const std::string expected = ViewsText(*parser).text();
+  std::string text;
+  std::thread([&, owned = std::move(parser)] { text = ViewsText(*owned).text(); }).join();
+  EXPECT_EQ(expected, text);
 }
 
 }  // namespace
