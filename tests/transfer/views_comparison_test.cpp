@@ -22,6 +22,7 @@
 #include "isoxmllib/isoxmllib.h"
 #include "lines.h"
 #include "reference_views.h"
+#include "support/comma_locale.h"
 #include "transfer/IsoDDIConstants.h"
 #include "transfer/IsoXmlParser.h"
 
@@ -537,28 +538,6 @@ TEST(RecordsOfALargeSet, OutliveTheirParser) {
 }
 
 // --- Locales ---------------------------------------------------------------------------------------------
-
-// One that writes 1.2.3.4,5, in streams and in the C library.
-class CommaLocale {
- public:
-  CommaLocale() : m_old(std::locale::global(std::locale(std::locale::classic(), new Punctuation))) {
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
-  }
-  ~CommaLocale() {
-    std::setlocale(LC_ALL, "C");
-    std::locale::global(m_old);
-  }
-  CommaLocale(CommaLocale const&) = delete;
-  CommaLocale& operator=(CommaLocale const&) = delete;
-
- private:
-  struct Punctuation : std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\1"; }
-  };
-  std::locale m_old;
-};
 
 TEST(ViewsOfSmallSets, AreTheSameInALocaleWithADecimalComma) {
   const CommaLocale comma;

@@ -7,7 +7,6 @@
 #include <clocale>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <iomanip>
 #include <limits>
 #include <locale>
@@ -15,6 +14,8 @@
 #include <string>
 #include <type_traits>
 #include <utility>
+
+#include "support/comma_locale.h"
 
 namespace {
 
@@ -237,31 +238,6 @@ TEST(Decimal, TakesTheGreatestDoubleWithAllItsDigits) {
 }
 
 // --- Locale ----------------------------------------------------------------------------------------------
-
-// A locale with "," as decimal point for the length of a scope: an installed one, or one made on the spot.
-class CommaLocale {
- public:
-  CommaLocale() : m_saved(std::setlocale(LC_ALL, nullptr)) {
-    for (char const* const name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
-      if (std::setlocale(LC_ALL, name) != nullptr) return;
-    }
-    const std::string directory = testing::TempDir() + "isoxml_locales";
-    const std::string make = "mkdir -p '" + directory + "' && localedef -i de_DE -f UTF-8 '" + directory +
-                             "/de_DE.UTF-8' >/dev/null 2>&1";
-    if (std::system(make.c_str()) == 0) {
-      setenv("LOCPATH", directory.c_str(), 1);
-      std::setlocale(LC_ALL, "de_DE.UTF-8");
-      unsetenv("LOCPATH");
-    }
-  }
-  CommaLocale(const CommaLocale&) = delete;
-  CommaLocale& operator=(const CommaLocale&) = delete;
-  ~CommaLocale() { std::setlocale(LC_ALL, m_saved.c_str()); }
-  bool is_in_force() const { return std::string(std::localeconv()->decimal_point) == ","; }
-
- private:
-  std::string m_saved;
-};
 
 TEST(DecimalInACommaLocale, ReadsDoublesAsEverAndTextByThePointOnly) {
   const CommaLocale locale;

@@ -15,6 +15,7 @@
 
 #include "GenLibrarySupportFiles/lmxtypes/c_binary.h"
 #include "GenLibrarySupportFiles/lmxtypes/lexical.h"
+#include "support/comma_locale.h"
 
 namespace {
 
@@ -33,32 +34,6 @@ std::string text_of(T const& value) {
   EXPECT_EQ(&out, &lmx::o_to_v(out, value));
   return out.str();
 }
-
-// A locale that writes 1.234.567,5: for C++ streams always, for the C library if the machine has one.
-class CommaLocale {
- public:
-  CommaLocale() : m_old(std::locale::global(std::locale(std::locale::classic(), new Punctuation))) {
-    for (char const* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "fr_FR.utf8"}) {
-      if (std::setlocale(LC_ALL, name) != nullptr) return;
-    }
-  }
-  ~CommaLocale() {
-    std::setlocale(LC_ALL, "C");
-    std::locale::global(m_old);
-  }
-  CommaLocale(CommaLocale const&) = delete;
-  CommaLocale& operator=(CommaLocale const&) = delete;
-
-  static bool reaches_c_library() { return std::localeconv()->decimal_point[0] == ','; }
-
- private:
-  struct Punctuation : std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\1"; }
-  };
-  std::locale m_old;
-};
 
 // --- Integers --------------------------------------------------------------------------------------------
 
@@ -267,12 +242,12 @@ TEST(DoubleInput, EqualsTheCLibrarysForOtherTexts) {
 
 TEST(DoubleInput, IgnoresACommaLocaleOfTheCLibrary) {
   CommaLocale const comma;
-  ASSERT_TRUE(CommaLocale::reaches_c_library())
+  ASSERT_TRUE(CommaLocale::is_in_force())
       << "a locale with a decimal comma is needed; scripts/test.sh makes one";
   EXPECT_EQ(1.0, std::strtod("1.5", nullptr)) << "the locale is in force";
   EXPECT_EQ(1.5, value_of<double>("1.5"));
   EXPECT_EQ(1.0, value_of<double>("1,5"));
-  EXPECT_TRUE(CommaLocale::reaches_c_library()) << "and stays so";
+  EXPECT_TRUE(CommaLocale::is_in_force()) << "and stays so";
 }
 
 // --- Types without content -------------------------------------------------------------------------------
