@@ -211,14 +211,17 @@ def hexadecimal(text):
 
 def decimal(text):
     """All digits built up in one double and divided once, as the library has it: Python's own conversion differs in
-    the last bit where there are more than 15 digits."""
+    the last bit where there are more than 15 digits. Only whole numbers are calculated with, and each is rounded as a
+    double would be: the floating-point unit of a 32-bit Python rounds twice."""
+    def rounded(number):
+        return int(float(number))
+
     whole, _, fraction = text.strip().lstrip("+-").partition(".")
-    value = 0.0
+    value, scale = 0, 1
     for digit in whole + fraction:
-        value = int(digit) + value * 10.0
-    scale = 1.0
+        value = rounded(rounded(value * 10) + int(digit))
     for _ in fraction:
-        scale *= 10.0
+        scale = rounded(scale * 10)
     return -(value / scale) if text.strip().startswith("-") else value / scale
 
 
