@@ -23,7 +23,9 @@ P917Metadata* keep(std::unique_ptr<P917Metadata> clone) {
 
 }  // namespace
 
-xmlReader::xmlReader(char const* fileName) : detail::file_input(fileName), c_xml_reader(fileInput, true) {}
+xmlReader::xmlReader(char const* fileName) : detail::file_input(fileName), c_xml_reader(mr_source, true) {}
+
+xmlReader::xmlReader(c_read& given) : detail::file_input(given), c_xml_reader(mr_source, true) {}
 
 xmlReader::~xmlReader() = default;
 

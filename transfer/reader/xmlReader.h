@@ -16,25 +16,31 @@ namespace lmx {
 
 namespace detail {
 
-/// Holds the file, so that it is there before the reader over it and outlives it.
+/// Holds the file, if the reader has one of its own, so that it is there before the reader and outlives it.
 struct ISOXML_API file_input {
-  explicit file_input(char const* fileName) : fileInput(fileName) {}
-  c_read_file fileInput;
+  explicit file_input(char const* fileName)
+      : fileInput(std::make_unique<c_read_file>(fileName)), mr_source(*fileInput) {}
+  explicit file_input(c_read& given) : mr_source(given) {}
+  std::unique_ptr<c_read_file> fileInput;
+  c_read& mr_source;
 };
 
 }  // namespace detail
 
-/// Reads one file. The lists hold borrowed pointers in the order in which the elements ended: they belong
+/// Reads one document. The lists hold borrowed pointers in the order in which the elements ended: they belong
 /// to the element tree and die with it. After a failed read none of them may be used.
 /// Threads: one at a time. The file stays open until destruction.
 class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
  public:
   /// Opens `fileName`. A failed open throws nothing and reports nothing: ask `isOpen`.
   explicit xmlReader(char const* fileName);
+  /// Reads from `source`, which is borrowed and must outlive the reader: a document in memory, an archive, a
+  /// network.
+  explicit xmlReader(c_read& source);
   ~xmlReader() override;
 
-  /// True when the file could be opened.
-  bool isOpen() const { return fileInput.is_open(); }
+  /// True when the source can be read.
+  bool isOpen() const { return mr_source.is_open(); }
 
   // Called by element classes at their end, when nothing went wrong. The pointers are borrowed.
   void addNewGrower(Grower* grower) { growers.push_back(grower); }
