@@ -354,9 +354,8 @@ bool c_xml::p_capture_attributes(c_xml_local* local) {
     bool captured;
     if (local != nullptr &&
         declares_namespace(data.c_str() + name_offset, std::strlen(data.c_str() + name_offset))) {
-      m_attribute_name.assign(data, name_offset, std::string::npos);
+      captured = p_capture_declaration(local, data.c_str() + name_offset);
       data.resize(name_offset);
-      captured = p_capture_declaration(local, m_attribute_name);
     } else {
       data.push_back('\0');
       captured = p_capture_attribute_value(&m_attributes, nullptr);
@@ -368,18 +367,22 @@ bool c_xml::p_capture_attributes(c_xml_local* local) {
   }
 }
 
-bool c_xml::p_capture_declaration(c_xml_local* local, std::string const& name) {
+// Names and URIs of any length come this way, so each is held as seldom as can be.
+bool c_xml::p_capture_declaration(c_xml_local* local, char const* name) {
   std::string& data = m_ns_attributes.m_data;
-  data.append(name).push_back('\0');
+  const std::size_t length = std::strlen(name);
+  data.reserve(data.size() + length + usual_attribute_bytes);
+  data.append(name, length + 1);
   std::size_t value_offset = 0;
   if (!p_capture_attribute_value(&m_ns_attributes, &value_offset)) return false;
-  p_declare_namespace(local, name.size() > 6 ? name.substr(6) : std::string(), data.c_str() + value_offset);
+  p_declare_namespace(local, length > 6 ? name + 6 : "", data.c_str() + value_offset);
   return true;
 }
 
 // An empty URI takes a prefix back: it then reads as undeclared, and the default namespace as none.
-void c_xml::p_declare_namespace(c_xml_local* local, std::string const& prefix, char const* raw_uri) {
+void c_xml::p_declare_namespace(c_xml_local* local, char const* prefix, char const* raw_uri) {
   std::string uri;
+  uri.reserve(std::strlen(raw_uri));
   c_entity_name_reader_for_c_str reader(raw_uri);
   for (int c = reader.get(); c != -1; c = reader.get()) {
     if (c != '&') {
@@ -388,10 +391,10 @@ void c_xml::p_declare_namespace(c_xml_local* local, std::string const& prefix, c
       break;  // what could be built has to do
     }
   }
-  const int id = !uri.empty()     ? add_namespace(uri.c_str())
-                 : prefix.empty() ? static_cast<int>(nsid_none)
-                                  : static_cast<int>(nsid_not_found);
-  local->add_namespace(prefix.c_str(), id);
+  const int id = !uri.empty()      ? add_namespace(uri.c_str())
+                 : *prefix == '\0' ? static_cast<int>(nsid_none)
+                                   : static_cast<int>(nsid_not_found);
+  local->add_namespace(prefix, id);
 }
 
 // A NUL byte counts as the end: the captured form could not hold it.
@@ -566,6 +569,14 @@ bool c_xml::skip_rest_of_element(std::string const& name) {
   return is_empty || skip_element_body(name);
 }
 
+void c_xml::p_tags_do_not_match(char const* start, std::string const& end) {
+  std::string message;
+  message.reserve(std::strlen(start) + end.size() + 64);  // names of any length: held once
+  message.append("Element start tag (").append(start);
+  message.append(") and end tag (").append(end).append(") do not match");
+  m_getter.error(EET_ERROR, ELMX_NOT_WELL_FORMED, message);
+}
+
 // The open elements' names stand one after the other in one string, so depth costs a few bytes a level.
 // Skipped content declares no namespaces: nothing in it is ever looked up.
 bool c_xml::skip_element_body(std::string const& name_in) {
@@ -585,9 +596,7 @@ bool c_xml::skip_element_body(std::string const& name_in) {
       }
       case EXE_ELEMENT_END:
         if (open_names.compare(offsets.back(), std::string::npos, name) != 0) {
-          m_getter.error(EET_ERROR, ELMX_NOT_WELL_FORMED,
-                         "Element start tag (" + open_names.substr(offsets.back()) + ") and end tag (" +
-                             name + ") do not match");
+          p_tags_do_not_match(open_names.c_str() + offsets.back(), name);
           return false;
         }
         open_names.resize(offsets.back());

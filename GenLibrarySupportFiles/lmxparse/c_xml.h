@@ -205,7 +205,7 @@ class ISOXML_API c_xml {
     m_plain_value_pending = false;
   }
   bool p_capture_attributes(c_xml_local* local);
-  bool p_capture_declaration(c_xml_local* local, std::string const& name);
+  bool p_capture_declaration(c_xml_local* local, char const* name);
   bool p_capture_attribute_value(c_attribute_data* data, std::size_t* value_offset);
   bool p_get_captured_value(c_attribute_data* data, std::string* out, elmx_whitespace mode);
   enum class any_tag { start, text, end, failure };
@@ -214,7 +214,8 @@ class ISOXML_API c_xml {
   bool p_open_any_element(std::string const& name, std::string* out, bool* is_empty);
   bool p_get_any_element(std::string const& name, std::string* out);
   static void p_add_any_attribute_data(std::string* out, c_attribute_data* data);
-  void p_declare_namespace(c_xml_local* local, std::string const& prefix, char const* raw_uri);
+  void p_declare_namespace(c_xml_local* local, char const* prefix, char const* raw_uri);
+  void p_tags_do_not_match(char const* start, std::string const& end);
 
   c_get_for_xml m_getter;
   c_internal_dtd m_internal_dtd;
@@ -232,7 +233,6 @@ class ISOXML_API c_xml {
   std::size_t m_plain_next = 0;
   bool m_plain_value_pending = false;      // the attribute before `m_plain_next` has only been named
   unsigned long long m_plain_fetches = 0;  // when the source was asked for more since, they are gone
-  std::string m_attribute_name;            // storage kept between attributes
 };
 
 }  // namespace lmx

@@ -508,9 +508,11 @@ bool c_get_with_entities::select_general_entity(c_entity_name_reader& reader, st
     p_set_input_entity_value(**value);  // a refusal is fatal, and shows as the end of the input
     return true;
   }
+  out->reserve(out->size() + name.size() + 2);
   out->push_back('&');
   out->append(name);
   if (c == ';') out->push_back(';');
+  std::string().swap(name);  // of any length, and not needed again
   return false;
 }
 

@@ -130,10 +130,14 @@ class ISOXML_API c_get_as_utf8 {
 
  private:
   int p_next_byte() {
-    ++m_bytes_read;
-    if (mr_read.mp_next != mr_read.mp_end) return *mr_read.mp_next++;
+    if (mr_read.mp_next != mr_read.mp_end) {
+      ++m_bytes_read;
+      return *mr_read.mp_next++;
+    }
     ++m_fetches;
-    return mr_read.get();
+    const int c = mr_read.get();
+    if (c != -1) ++m_bytes_read;  // the end is no byte, however often it is asked for
+    return c;
   }
   int p_get();
   int p_read_local_transcoded();

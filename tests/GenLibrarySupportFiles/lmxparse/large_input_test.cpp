@@ -1,43 +1,14 @@
 // Inputs so large that a count or a copy could run away: seconds and memory, so not for sanitized builds.
 #include <gtest/gtest.h>
 
-#include <malloc.h>
-
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
-#include <new>
 #include <string>
 #include <utility>
 
 #include "GenLibrarySupportFiles/lmxparse/c_xml.h"
 #include "GenLibrarySupportFiles/lmxparse/getters.h"
-
-namespace {
-
-std::size_t heap_now = 0;
-std::size_t heap_peak = 0;
-
-// Not inlined: the compiler would see malloc meet operator delete and warn of it.
-__attribute__((noinline)) void* take(std::size_t size) {
-  void* const block = std::malloc(size);
-  if (block == nullptr) throw std::bad_alloc();
-  heap_now += malloc_usable_size(block);
-  heap_peak = std::max(heap_peak, heap_now);
-  return block;
-}
-
-__attribute__((noinline)) void give_back(void* block) noexcept {
-  heap_now -= malloc_usable_size(block);
-  std::free(block);
-}
-
-}  // namespace
-
-// Every allocation of this program and of the library in it is counted.
-void* operator new(std::size_t size) { return take(size); }
-void operator delete(void* block) noexcept { give_back(block); }
-void operator delete(void* block, std::size_t) noexcept { give_back(block); }
+#include "support/counted_heap.h"
 
 namespace {
 
@@ -95,8 +66,7 @@ TEST_P(LargeItems, AreReadWholeInAtMostThreeCopies) {
   SCOPED_TRACE(GetParam().caption);
   constexpr std::size_t size = std::size_t{48} << 20;
   std::string item;
-  const std::size_t before = heap_now;
-  heap_peak = before;
+  const std::size_t before = counted_heap::restart();
   {
     GeneratedRead read(GetParam().head, 'x', size, GetParam().tail);
     lmx::c_error log;
@@ -106,7 +76,7 @@ TEST_P(LargeItems, AreReadWholeInAtMostThreeCopies) {
   }
   EXPECT_EQ(size, item.size());
   EXPECT_EQ(std::string::npos, item.find_first_not_of('x'));
-  EXPECT_LE(heap_peak - before, 3 * 2 * size);
+  EXPECT_LE(counted_heap::peak - before, 3 * 2 * size);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,0 +1,681 @@
+// Documents made to do harm: nesting, entities, and sizes far beyond use; NUL bytes; every beginning. Each
+// gets its exact code, strictly and from a reader whose host lets everything pass, whole and cut off
+// anywhere. None may hang, and none may take memory out of proportion: a fixed allowance, and four bytes for
+// each byte of the document and of the expansion that its entities are allowed.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <ostream>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "GenLibrarySupportFiles/lmxparse/limits.h"
+#include "isoxmllib/isoxmllib.h"
+#include "support/counted_heap.h"
+#include "support/transfer_set.h"
+#include "transfer/reader/xmlReader.h"
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool heap_is_plain = false;  // sanitizers enlarge every block
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || __has_feature(memory_sanitizer)
+constexpr bool heap_is_plain = false;
+#else
+constexpr bool heap_is_plain = true;
+#endif
+#else
+constexpr bool heap_is_plain = true;
+#endif
+
+constexpr std::size_t mib = std::size_t{1} << 20;
+
+// ---- Reading ----
+
+// A borrowed text, shown a file's buffer at a time.
+class ShownText : public lmx::c_read {
+ public:
+  explicit ShownText(std::string_view text) : m_text(text) {}
+
+  int get() override {
+    if (mp_next == mp_end) {
+      const std::string_view window = m_text.substr(m_shown, 16384);
+      mp_next = reinterpret_cast<unsigned char const*>(window.data());
+      mp_end = mp_next + window.size();
+      m_shown += window.size();
+      if (window.empty()) return -1;
+    }
+    return *mp_next++;
+  }
+  int rewind() override {
+    m_shown = 0;
+    mp_next = mp_end = nullptr;
+    return 0;
+  }
+
+ private:
+  const std::string_view m_text;
+  std::size_t m_shown = 0;
+};
+
+enum class Host { Strict, Tolerant };
+
+// Keeps what is reported, however often: equal reports in a row are one entry.
+class HostReader : public lmx::xmlReader {
+ public:
+  HostReader(lmx::c_read& source, Host host) : xmlReader(source), m_host(host) {}
+
+  lmx::elmx_error handle_error(lmx::elmx_error code, std::string const& item, char const*, int) override {
+    if (m_runs.empty() || m_runs.back().code != code || m_runs.back().item != item) {
+      if (m_runs.size() < runs_kept) m_runs.push_back({code, item, 0});
+    }
+    ++m_runs.back().count;
+    return m_host == Host::Tolerant ? lmx::ELMX_OK : code;
+  }
+
+  /// The reports as "code item", those in a row as "code item x count".
+  std::string reports() const {
+    std::string text;
+    for (Run const& run : m_runs) {
+      text += (text.empty() ? "" : ", ") + std::to_string(run.code) + ' ' +
+              (run.item.size() <= 40 ? run.item : std::to_string(run.item.size()) + " characters");
+      if (run.count > 1) text += " x " + std::to_string(run.count);
+    }
+    return text;
+  }
+  int first_code() const { return m_runs.empty() ? 0 : m_runs.front().code; }
+
+ private:
+  struct Run {
+    int code;
+    std::string item;
+    std::size_t count;
+  };
+  static constexpr std::size_t runs_kept = 8;
+
+  const Host m_host;
+  std::vector<Run> m_runs;
+};
+
+struct Outcome {
+  int code;
+  int first_code;
+  std::string reports;
+};
+
+unsigned long long allowed_heap(std::string_view document) {
+  const bool has_entities = document.find("<!ENTITY") != std::string_view::npos;
+  const unsigned long long expansion =
+      has_entities ? std::max(lmx::limits::free_expansion, lmx::limits::expansion_factor * document.size())
+                   : 0;
+  return 64 * mib + 4 * (document.size() + expansion);
+}
+
+Outcome read(std::string_view document, Host host) {
+  const std::size_t before = counted_heap::restart();
+  Outcome outcome;
+  {
+    ShownText text(document);
+    HostReader reader(text, host);
+    Root root;
+    const int code = root.unmarshal(reader);
+    outcome = {code, reader.first_code(), reader.reports()};
+  }
+  const std::size_t taken = counted_heap::peak - before;
+  testing::Test::RecordProperty("heap", std::to_string(taken));
+  EXPECT_TRUE(taken <= allowed_heap(document) || !heap_is_plain) << taken;
+  return outcome;
+}
+
+// ---- Documents ----
+
+std::string repeated(std::string_view text, std::size_t count) {
+  std::string all;
+  all.reserve(text.size() * count);
+  for (std::size_t i = 0; i != count; ++i) all += text;
+  return all;
+}
+
+// `text` for each number from 0, with each "#" in it replaced by the number.
+std::string numbered(std::string_view text, std::size_t count) {
+  std::string all;
+  for (std::size_t i = 0; i != count; ++i) {
+    for (const char c : text) {
+      if (c == '#') {
+        all += std::to_string(i);
+      } else {
+        all += c;
+      }
+    }
+  }
+  return all;
+}
+
+std::string nested(std::string_view start, std::string_view end, std::size_t depth) {
+  return repeated(start, depth) + repeated(end, depth);
+}
+
+// A task with more in its start tag, and with content.
+std::string task(std::string const& attributes, std::string const& content) {
+  return "<TSK A=\"TSK1\" G=\"1\"" + attributes + '>' + content + "</TSK>";
+}
+
+std::string with_subset(std::string const& subset, std::string const& document) {
+  return "<!DOCTYPE x [" + subset + "]>" + document;
+}
+
+constexpr std::size_t long_size = 64 * mib;
+std::string long_text(char c = 'x') { return std::string(long_size, c); }
+
+constexpr std::size_t million = 1000 * 1000;
+
+struct Hostile {
+  std::string name;
+  std::function<std::string()> document;
+  int code;               // of a strict read
+  std::string tolerated;  // what a host hears that lets everything pass
+};
+
+void PrintTo(Hostile const& hostile, std::ostream* out) { *out << hostile.name; }
+
+// How an entity does harm: the internal subset, and the references that set it off.
+struct Attack {
+  char const* name;
+  std::function<std::string()> subset;
+  std::string references;
+  bool leaves_text;       // some is expanded before the rest is refused
+  bool begins_with_text;  // and that is more than blanks
+};
+
+struct Expected {
+  int code;
+  char const* tolerated;
+};
+
+// Where a reference may stand. What a document gets depends on the place, and only there on the attack.
+struct Place {
+  char const* name;
+  std::string (*document)(std::string const& references);
+  Expected expected;
+  bool Attack::*exception;  // attacks of this kind get something else; null if there are none
+  Expected instead;
+};
+
+// Each of 20 entities is ten times the one before.
+std::string laughs(std::string const& first) {
+  std::string subset = "<!ENTITY l0 '" + first + "'>";
+  for (int i = 1; i != 20; ++i) {
+    const std::string last = "&l" + std::to_string(i - 1) + ';';
+    subset += "<!ENTITY l" + std::to_string(i) + " '" + repeated(last, 10) + "'>";
+  }
+  return subset;
+}
+
+std::string chain(std::size_t length) {
+  std::string subset;
+  for (std::size_t i = 0; i != length; ++i) {
+    subset += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i + 1) + ";'>";
+  }
+  return subset + "<!ENTITY e" + std::to_string(length) + " ''>";
+}
+
+std::vector<Hostile> with_entities() {
+  static const Place places[] = {
+      {"InAnAttribute",
+       [](std::string const& r) { return task(" B=\"" + r + "\"", ""); },
+       {28, "28 @B, 9 , 9 TSK, 10 TSK"},
+       &Attack::leaves_text,
+       {28, "28 @B, 19 B, 9 , 9 TSK, 10 TSK"}},
+      {"InText",
+       [](std::string const& r) { return task("", "<P917_comment>" + r + "</P917_comment>"); },
+       {29, "29 P917_comment, 10 P917_comment, 9 TSK, 10 TSK"},
+       nullptr,
+       {}},
+      {"BetweenTags",
+       [](std::string const& r) { return task("", r); },
+       {9, "9 TSK, 10 TSK"},
+       &Attack::begins_with_text,
+       {10, "10 TSK"}},
+      {"InSkippedContent",
+       [](std::string const& r) { return task("", "<Foo>" + r + "</Foo>"); },
+       {5, "5 TSK, 10 Foo, 9 TSK, 10 TSK"},
+       nullptr,
+       {}},
+      {"InANamespace",
+       [](std::string const& r) { return task("", "<TZN xmlns:p=\"" + r + "\" A=\"1\"/>"); },
+       {9, "9 TSK, 10 TSK"},
+       nullptr,
+       {}},
+      // What is not known is never expanded.
+      {"InAnUnknownAttribute",
+       [](std::string const& r) { return task(" x=\"" + r + "\"", ""); },
+       {0, ""},
+       nullptr,
+       {}},
+      {"InASkippedAttribute",
+       [](std::string const& r) { return task("", "<Foo><Bar xmlns:p=\"" + r + "\"/></Foo>"); },
+       {0, ""},
+       nullptr,
+       {}},
+  };
+  static const Attack attacks[] = {
+      {"AnEntityThatNamesItself", [] { return std::string("<!ENTITY a '&a;'>"); }, "&a;", false, false},
+      {"OneThatNamesItselfWithoutSemicolon", [] { return std::string("<!ENTITY a '&a'>"); }, "&a;", false,
+       false},
+      {"TwoThatNameEachOther", [] { return std::string("<!ENTITY a '&b;'><!ENTITY b '&a;'>"); }, "&a;", false,
+       false},
+      {"ABillionLaughs", [] { return laughs("ha"); }, "&l19;", true, true},
+      {"ABillionBlanks", [] { return laughs(" "); }, "&l19;", true, false},
+      // Text all the same: in values each second reference loses its "&".
+      {"ABillionTimesNothing", [] { return laughs(""); }, "&l19;", true, false},
+      {"AHundredThousandInAChain", [] { return chain(100000); }, "&e0;", false, false},
+      {"AHundredKilobytesTenThousandTimes", [] { return "<!ENTITY e '" + std::string(100000, 'x') + "'>"; },
+       repeated("&e;", 10000), true, true},
+  };
+  std::vector<Hostile> all;
+  for (Attack const& attack : attacks) {
+    for (Place const& place : places) {
+      const bool is_exception = place.exception != nullptr && attack.*place.exception;
+      const Expected expected = is_exception ? place.instead : place.expected;
+      all.push_back({std::string(attack.name) + place.name,
+                     [&] { return with_subset(attack.subset(), place.document(attack.references)); },
+                     expected.code, expected.tolerated});
+    }
+  }
+  return all;
+}
+
+std::vector<Hostile> in_the_subset() {
+  const auto subset = [](char const* name, std::function<std::string()> text, int code,
+                         char const* tolerated) {
+    return Hostile{name, [text] { return with_subset(text(), task("", "")); }, code, tolerated};
+  };
+  const auto fixed = [](std::string text) { return [text] { return text; }; };
+  return {
+      subset("AParameterEntityThatNamesItself", fixed("<!ENTITY % a '&#37;a;'> %a;"), 9, "9 , 31 "),
+      subset("OneThatNamesItselfWithoutSemicolon", fixed("<!ENTITY % a '&#37;a'> %a;"), 9, "9 , 31 "),
+      subset("TwoParameterEntitiesThatNameEachOther",
+             fixed("<!ENTITY % a '&#37;b;'><!ENTITY % b '&#37;a;'> %b;"), 9, "9 , 31 "),
+      subset("OneThatRedeclaresItselfWhileItIsRead",
+             fixed("<!ENTITY % a \"&#60;!ENTITY &#37; a 'z'&#62; \"> %a;"), 0, ""),
+      subset("OneThatRedeclaresItselfWithItselfInside",
+             fixed("<!ENTITY % a \"&#60;!ENTITY &#37; a '&#37;a;&#37;a;'&#62; \"> %a;"), 9, "9 , 31 "),
+      subset(
+          "ABillionLaughsInParameterEntities",
+          [] {
+            std::string text = "<!ENTITY % l0 'ha'>";
+            for (int i = 1; i != 20; ++i) {
+              text += "<!ENTITY % l" + std::to_string(i) + " '" +
+                      repeated("%l" + std::to_string(i - 1) + ';', 10) + "'>";
+            }
+            return text;
+          },
+          9, "9 , 31 "),
+      subset(
+          "AHundredKilobytesCopiedTenThousandTimes",
+          [] {
+            return "<!ENTITY % p '" + std::string(100000, 'x') + "'>" +
+                   repeated("<!ENTITY % q '%p;'>", 10000);
+          },
+          9, "9 , 31 "),
+      subset(
+          "AHundredThousandEntities", [] { return numbered("<!ENTITY e# 'v#'>", 100000); }, 0, ""),
+      subset(
+          "AHundredThousandTimesTheSameEntity", [] { return numbered("<!ENTITY e '#'>", 100000); }, 0, ""),
+      subset(
+          "AHundredThousandUnknownParameterEntities", [] { return numbered("%p#; ", 100000); }, 0, ""),
+      subset(
+          "AMillionOtherDeclarations", [] { return repeated("<!ELEMENT a (b)>", million); }, 0, ""),
+  };
+}
+
+std::vector<Hostile> in_number() {
+  return {
+      {"AMillionUnknownElementsDeep", [] { return task("", nested("<Foo>", "</Foo>", million)); }, 0, ""},
+      {"AMillionVariablesDeep", [] { return nested("<PDV A=\"0001\" B=\"1\">", "</PDV>", million); }, 5,
+       "5 PDV"},
+      {"AMillionUnknownElements", [] { return task("", repeated("<Foo/>", million)); }, 0, ""},
+      {"AMillionAttributes", [] { return task(numbered(" a#=\"v\"", million), ""); }, 0, ""},
+      {"AMillionSkippedAttributes", [] { return task("", "<Foo" + numbered(" a#=\"v\"", million) + "/>"); },
+       0, ""},
+      {"AMillionTimesTheSameAttribute", [] { return task(repeated(" B=\"v\"", million), ""); }, 3,
+       "3 @B x 999999"},
+      {"AHundredThousandNamespacesOnATag",
+       [] { return task(numbered(" xmlns:p#=\"u#\"", 100000), "<TZN A=\"1\"/>"); }, 0, ""},
+      {"AHundredThousandNamespacesThatAreUsed",
+       [] {
+         return task(numbered(" xmlns:p#=\"u#\"", 100000),
+                     numbered("<p#:Foo/>", 100000) + numbered("<TZN A=\"1\" p#:x=\"1\"/>", 100000));
+       },
+       0, ""},
+      {"AHundredThousandNamespacesOnSiblings",
+       [] { return task("", numbered("<TZN xmlns:p#=\"u#\" A=\"1\"/>", 100000)); }, 0, ""},
+      {"AHundredThousandSkippedNamespaces",
+       [] { return task("", "<Foo>" + numbered("<Bar xmlns:p#=\"u#\"/>", 100000) + "</Foo>"); }, 0, ""},
+      {"AHundredThousandTimesTheSamePrefix", [] { return task(numbered(" xmlns:p=\"u#\"", 100000), ""); }, 0,
+       ""},
+      {"AMillionComments", [] { return task("", repeated("<!---->", million)); }, 0, ""},
+      {"AMillionReferencesInText",
+       [] { return task("", "<P917_comment>" + repeated("&lt;", million) + "</P917_comment>"); }, 0, ""},
+  };
+}
+
+std::vector<Hostile> in_size() {
+  return {
+      {"AnElementName", [] { return task("", '<' + long_text() + "/>"); }, 0, ""},
+      {"AnElementNameWithContent", [] { return task("", '<' + long_text() + ">t</x>"); }, 5,
+       "5 TSK, 10 67108864 characters, 34 TSK, 10 TSK"},
+      {"AnotherEndTag", [] { return "<TSK A=\"TSK1\" G=\"1\"></" + long_text() + '>'; }, 10, "10 TSK"},
+      {"ASkippedEndTag", [] { return task("", "<Foo></" + long_text() + '>'); }, 5,
+       "5 TSK, 10 Foo, 34 TSK, 10 TSK"},
+      {"AnAttributeName", [] { return task(' ' + long_text() + "=\"1\"", ""); }, 0, ""},
+      {"AnUnknownValue", [] { return task(" x=\"" + long_text() + '"', ""); }, 0, ""},
+      {"AKnownValue", [] { return task(" B=\"" + long_text() + '"', ""); }, 19, "19 B"},
+      {"AnUnquotedValue", [] { return task(" B=" + long_text(), ""); }, 23, "23 TSK, 31 TSK"},
+      {"AText", [] { return task("", "<P917_comment>" + long_text() + "</P917_comment>"); }, 0, ""},
+      {"ATextOfBlanks", [] { return task("", "<P917_comment>" + long_text(' ') + "</P917_comment>"); }, 0,
+       ""},
+      {"ASection", [] { return task("", "<P917_comment><![CDATA[" + long_text(']') + "]]></P917_comment>"); },
+       0, ""},
+      {"ATextBetweenTags", [] { return task("", long_text()); }, 10, "10 TSK"},
+      {"ASectionBetweenTags", [] { return task("", "<![CDATA[" + long_text() + "]]>"); }, 10, "10 TSK"},
+      {"BlanksBetweenTags", [] { return task("", long_text(' ')); }, 0, ""},
+      {"BlanksBetweenAttributes", [] { return task(long_text(' '), ""); }, 0, ""},
+      {"LineEndsBetweenTags", [] { return task("", long_text('\r')); }, 0, ""},
+      {"AComment", [] { return task("", "<!--" + long_text() + "-->"); }, 0, ""},
+      {"ACommentOfHyphens", [] { return task("", "<!--" + long_text('-') + "-->"); }, 0, ""},
+      {"AnInstruction", [] { return task("", "<?p " + long_text('?') + "?>"); }, 0, ""},
+      {"ADocumentType", [] { return "<!DOCTYPE " + long_text() + '>' + task("", ""); }, 0, ""},
+      {"ADeclaration", [] { return with_subset("<!ELEMENT " + long_text() + '>', task("", "")); }, 0, ""},
+      {"AVersion", [] { return "<?xml version=\"" + long_text() + "\"?>" + task("", ""); }, 14, "14 , 31 "},
+      {"AnEncoding", [] { return "<?xml version=\"1.0\" encoding=\"" + long_text() + "\"?>" + task("", ""); },
+       6, "6 , 31 "},
+      {"ANamespace", [] { return task(" xmlns:p=\"" + long_text() + '"', ""); }, 0, ""},
+      {"APrefix", [] { return task(" xmlns:" + long_text() + "=\"u\"", ""); }, 0, ""},
+      {"AReferenceInAnAttribute", [] { return task(" B=\"&" + long_text() + ";\"", ""); }, 28, "28 @B, 19 B"},
+      {"AReferenceInText", [] { return task("", "<P917_comment>&" + long_text() + ";</P917_comment>"); }, 29,
+       "29 P917_comment"},
+      {"AReferenceBetweenTags", [] { return task("", '&' + long_text() + ';'); }, 10, "10 TSK"},
+      {"ANumberOfACharacter", [] { return task(" B=\"&#" + long_text('1') + ";\"", ""); }, 28, "28 @B"},
+      {"AnEntityName",
+       [] {
+         return with_subset("<!ENTITY " + long_text() + " 'v'>", task(" B=\"&" + long_text() + ";\"", ""));
+       },
+       0, ""},
+      {"AnEntityValue",
+       [] {
+         return with_subset("<!ENTITY e '" + long_text() + "'>",
+                            task("", "<P917_comment>&e;</P917_comment>"));
+       },
+       0, ""},
+      {"AnEntityValueInAnAttribute",
+       [] { return with_subset("<!ENTITY e '" + long_text() + "'>", task(" B=\"&e;\"", "")); }, 19, "19 B"},
+      {"AParameterEntity", [] { return with_subset("<!ENTITY % p '" + long_text() + "'>%p;", task("", "")); },
+       9, "9 , 31 "},
+  };
+}
+
+class HostileDocuments : public testing::TestWithParam<Hostile> {};
+
+TEST_P(HostileDocuments, GetTheirCode) {
+  const std::string document = GetParam().document();
+  EXPECT_EQ(GetParam().code, read(document, Host::Strict).code);
+}
+
+TEST_P(HostileDocuments, ComeToAnEndWhenEverythingIsTolerated) {
+  const std::string document = GetParam().document();
+  EXPECT_EQ(GetParam().tolerated, read(document, Host::Tolerant).reports);
+}
+
+// What a cut may bring, beside what the document brings before it.
+bool is_code_of_a_cut(int code) {
+  static constexpr int codes[] = {5, 9, 10, 13, 21, 23, 28, 29, 31, 34, 41};
+  return std::find(std::begin(codes), std::end(codes), code) != std::end(codes);
+}
+
+TEST_P(HostileDocuments, AreRefusedWhereverTheyAreCutOff) {
+  const std::string document = GetParam().document();
+  const std::string_view whole = document;
+  std::mt19937 random(4711);
+  const std::size_t edge = std::min<std::size_t>(whole.size(), 200);
+  std::vector<std::size_t> cuts;
+  for (int i = 0; i != 2; ++i) {
+    cuts.push_back(random() % edge);
+    cuts.push_back(random() % whole.size());
+    cuts.push_back(whole.size() - 1 - random() % edge);
+  }
+  for (const std::size_t cut : cuts) {
+    SCOPED_TRACE("cut at " + std::to_string(cut) + " of " + std::to_string(whole.size()));
+    const std::string_view rest = whole.substr(0, cut);
+    const Outcome strict = read(rest, Host::Strict);
+    EXPECT_TRUE(is_code_of_a_cut(strict.code) || (strict.code == GetParam().code && strict.code != 0))
+        << strict.code;
+    EXPECT_EQ(strict.code, read(rest, Host::Tolerant).first_code);
+  }
+}
+
+std::string name_of(testing::TestParamInfo<Hostile> const& info) { return info.param.name; }
+
+INSTANTIATE_TEST_SUITE_P(OfEntities, HostileDocuments, testing::ValuesIn(with_entities()), name_of);
+INSTANTIATE_TEST_SUITE_P(InTheSubset, HostileDocuments, testing::ValuesIn(in_the_subset()), name_of);
+INSTANTIATE_TEST_SUITE_P(InNumber, HostileDocuments, testing::ValuesIn(in_number()), name_of);
+INSTANTIATE_TEST_SUITE_P(OfManyMegabytes, HostileDocuments, testing::ValuesIn(in_size()), name_of);
+
+// ---- Files ----
+
+std::size_t open_files() {
+  const std::filesystem::directory_iterator all("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(all), end(all))) - 1;  // the listing's own
+}
+
+// Fewer files may be open than the set has, for as long as this lives.
+class FileLimit {
+ public:
+  explicit FileLimit(rlim_t most) {
+    getrlimit(RLIMIT_NOFILE, &m_before);
+    const rlimit lower{most, m_before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &lower);
+  }
+  ~FileLimit() { setrlimit(RLIMIT_NOFILE, &m_before); }
+  FileLimit(FileLimit const&) = delete;
+  FileLimit& operator=(FileLimit const&) = delete;
+
+ private:
+  rlimit m_before{};
+};
+
+TEST(HostileSet, WithMoreFilesThanMayBeOpenKeepsThoseThatCouldBeOpened) {
+  constexpr std::size_t references = 2000, most = 256;
+  SetFiles files;
+  std::string content;
+  for (std::size_t i = 0; i != references; ++i) {
+    const std::string number = std::to_string(10000 + i);
+    content += reference("TSK" + number);
+    files["TSK" + number + ".XML"] = external_file("<TSK A='TSK" + number + "' G='1'/>");
+  }
+  files["TASKDATA.XML"] = task_data(content);
+  const std::size_t open_before = open_files();
+  const std::size_t read = most - open_before - 1;  // the main document holds one
+  const FileLimit limit(most);
+  TransferSet set(files);
+  EXPECT_EQ(read, set->getTasks().size());
+  ASSERT_EQ(references - read, set->getErrors().size());
+  for (std::size_t i = 0; i != set->getErrors().size(); ++i) {
+    IsoXmlError const& error = set->getErrors()[i];
+    EXPECT_EQ(lmx::ELMX_NO_FILE, error.error);
+    EXPECT_EQ("TSK" + std::to_string(10000 + read + i), error.fileName);
+    EXPECT_EQ(1, error.line);
+  }
+  EXPECT_EQ(1 + references, set->getDocuments().size());
+  set.close();
+  EXPECT_EQ(open_before, open_files());
+}
+
+// ---- NUL bytes ----
+
+// A good document in pieces: what comes of a NUL in front of each of a piece's characters.
+struct Piece {
+  char const* text;
+  int code;
+};
+
+constexpr Piece pieces[] = {
+    // In the first two bytes it tells of UTF-16, and the document is one long name.
+    {"<?", 23},
+    // No "xml ", so it is an instruction, which is skipped.
+    {"xml ", 0},
+    {"version=\"", 13},
+    {"1.0\"", 14},
+    {" encoding=\"", 31},
+    {"UTF-8", 6},
+    {"\"", 0},  // the name ends at the NUL
+    {"?>", 31},
+    {"<", 31},
+    {"!", 23},
+    {"DOCTYPE", 31},
+    {" x [", 0},
+    {"<", 9},
+    // The entity is then another, or none.
+    {"!ENTITY e ", 28},
+    {"\"v\">", 0},
+    {"]>", 9},
+    {"<", 31},
+    {"!", 23},
+    {"--", 31},
+    {" c -", 0},
+    {"->", 31},  // the comment goes on
+    {"<", 31},
+    {"?", 23},
+    {"p i?", 0},
+    {">", 31},  // the instruction goes on
+    {"<", 31},
+    {"T", 23},
+    {"SK", 5},  // an unknown element, whose end tag does not come
+    {" A=\"TSK1\" G=\"1\" B=\"b&e;\">", 23},
+    {"\n<", 10},
+    {"F", 23},
+    {"oo", 5},
+    {" x", 0},
+    {"=\"1\"", 23},
+    {">t<", 0},
+    {"/Foo>", 5},
+    {"<", 10},
+    {"P", 23},
+    {"917_comment", 5},
+    {">", 23},
+    {"text<", 0},
+    {"!", 10},
+    {"[CDATA[", 29},
+    {"cd]", 0},
+    {"]>", 29},  // the section goes on
+    {"<", 0},
+    {"/P917_comment>", 10},
+    {"<", 10},
+    {"T", 23},
+    {"ZN", 0},  // an unknown element, and an empty one
+    {" A=\"1\"/>", 23},
+    {"<", 10},
+    {"/", 12},  // the tag's end is looked for, and what stands behind the "/" is wrong as well
+    {"T", 10},
+    {"SK>", 23},
+};
+
+std::string pieces_together() {
+  std::string document;
+  for (Piece const& piece : pieces) document += piece.text;
+  return document;
+}
+
+TEST(NulBytes, GetTheCodeOfWhereTheyStand) {
+  const std::string document = pieces_together();
+  ASSERT_EQ(0, read(document, Host::Strict).code);
+  std::string::size_type position = 0;
+  for (Piece const& piece : pieces) {
+    for (char const* p = piece.text; *p != '\0'; ++p, ++position) {
+      const std::string with_nul = document.substr(0, position) + '\0' + document.substr(position);
+      EXPECT_EQ(piece.code, read(with_nul, Host::Strict).code)
+          << position << ": " << document.substr(position);
+      EXPECT_EQ(piece.code, read(with_nul, Host::Tolerant).first_code) << position;
+    }
+  }
+  EXPECT_EQ(0, read(document + '\0', Host::Strict).code) << "what follows the root is not read";
+}
+
+TEST(NulBytes, InPlaceOfAnyByteEndTheReading) {
+  const std::string document = pieces_together();
+  for (std::string::size_type i = 0; i != document.size(); ++i) {
+    std::string with_nul = document;
+    with_nul[i] = '\0';
+    const int code = read(with_nul, Host::Strict).code;
+    EXPECT_TRUE(code == 0 || code == 6 || code == 14 || is_code_of_a_cut(code)) << i << ": " << code;
+    EXPECT_EQ(code, read(with_nul, Host::Tolerant).first_code) << i;
+  }
+}
+
+TEST(NulBytes, AloneAreNoEncoding) {
+  const std::string nothing(million, '\0');
+  EXPECT_EQ(6, read(nothing, Host::Strict).code);
+  EXPECT_EQ(34, read("", Host::Strict).code);
+}
+
+// ---- The first two bytes ----
+
+bool is_blank(int c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+bool is_name_start(int c) {
+  return c > 127 || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == ':' || c == '_';
+}
+
+// What a task behind the bytes `a` and `b` gets.
+int code_behind(int a, int b) {
+  constexpr int unknown_encoding = 6, not_well_formed = 23, no_element = 31, end_of_input = 34;
+  // Two bytes a character: the task's tag is then one long name, or text.
+  if (a == 0 && (b == '<' || is_blank(b))) return b == '<' ? not_well_formed : no_element;
+  if (a != '<' && !is_blank(a)) return unknown_encoding;
+  if (b == 0) return a == '<' ? not_well_formed : no_element;
+  // No first byte of a character reads as the end of the input.
+  const bool is_cut = (b >= 0x80 && b < 0xC2) || b > 0xF4 || b == 0xE0 || b == 0xED || b == 0xF0 || b == 0xF4;
+  if (a == '<') {
+    if (is_cut) return not_well_formed;
+    if (is_name_start(b)) return end_of_input;  // an unknown element, and nothing else
+    return b == '/' || b == '?' || b == '!' ? no_element : not_well_formed;
+  }
+  if (is_cut) return end_of_input;
+  if (is_blank(b)) return 0;
+  return b == '<' ? not_well_formed : no_element;
+}
+
+TEST(FirstTwoBytes, OfAllKindsGetTheirCode) {
+  std::string document = "..<TSK A=\"TSK1\" G=\"1\"/>\n";
+  for (int a = 0; a != 256; ++a) {
+    for (int b = 0; b != 256; ++b) {
+      document[0] = static_cast<char>(a);
+      document[1] = static_cast<char>(b);
+      const int code = code_behind(a, b);
+      ASSERT_EQ(code, read(document, Host::Strict).code) << a << ' ' << b;
+      ASSERT_EQ(code, read(document, Host::Tolerant).first_code) << a << ' ' << b;
+    }
+  }
+}
+
+TEST(FirstTwoBytes, AloneNeverMakeADocument) {
+  std::string document = "..";
+  for (int a = 0; a != 256; ++a) {
+    for (int b = 0; b != 256; ++b) {
+      document[0] = static_cast<char>(a);
+      document[1] = static_cast<char>(b);
+      const int code = read(document, Host::Strict).code;
+      ASSERT_TRUE(code == 6 || code == 23 || code == 31 || code == 34) << a << ' ' << b << ": " << code;
+    }
+  }
+}
+
+}  // namespace
