@@ -222,7 +222,8 @@ def decimal(text):
         value = rounded(rounded(value * 10) + int(digit))
     for _ in fraction:
         scale = rounded(scale * 10)
-    return -(value / scale) if text.strip().startswith("-") else value / scale
+    magnitude = (value << 64) / (scale << 64)  # so large that Python divides digit by digit
+    return -magnitude if text.strip().startswith("-") else magnitude
 
 
 def location(point):
