@@ -7,7 +7,7 @@ namespace {
 
 // What the tag level makes of the document: each item, each attribute's value, each element's text.
 std::string items(std::string_view document, lmx::elmx_whitespace mode, bool normalise, std::size_t window) {
-  fuzz::Source source(document, window);
+  TextSource source(document, window);
   lmx::c_error error;
   lmx::c_xml xml(source, error, normalise);
   std::string seen, text;

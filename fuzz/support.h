@@ -14,6 +14,7 @@
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/text_source.h"
 #include "transfer/reader/xmlReader.h"
 
 /// What libFuzzer, and the program that replays kept inputs, call for each input.
@@ -43,34 +44,6 @@ inline std::vector<std::string> parts_of(std::string_view input) {
     input.remove_prefix(end + separator.size());
   }
 }
-
-/// A borrowed text that shows `window` bytes at a time; with 0 it has nothing but the next byte.
-class Source : public lmx::c_read {
- public:
-  Source(std::string_view text, std::size_t window) : m_text(text), m_window(window) {}
-
-  int get() override {
-    if (m_window == 0) return m_shown < m_text.size() ? static_cast<unsigned char>(m_text[m_shown++]) : -1;
-    if (mp_next == mp_end) {
-      const std::string_view window = m_text.substr(m_shown, m_window);
-      mp_next = reinterpret_cast<unsigned char const*>(window.data());
-      mp_end = mp_next + window.size();
-      m_shown += window.size();
-      if (window.empty()) return -1;
-    }
-    return *mp_next++;
-  }
-  int rewind() override {
-    m_shown = 0;
-    mp_next = mp_end = nullptr;
-    return 0;
-  }
-
- private:
-  const std::string_view m_text;
-  const std::size_t m_window;
-  std::size_t m_shown = 0;
-};
 
 enum class Host { Strict, Tolerant };
 
@@ -118,7 +91,7 @@ struct Reading {
 };
 
 inline Reading read(Root& root, std::string_view document, Host host, std::size_t window) {
-  Source source(document, window);
+  TextSource source(document, window);
   NotingReader reader(source, host);
   const int code = root.unmarshal(reader);
   std::string seen = "code " + std::to_string(code) + ", line " + std::to_string(reader.line()) +

@@ -214,7 +214,7 @@ void validators(std::string const& text) {
     }
     return all;
   }();
-  fuzz::Source nothing("", 1);
+  TextSource nothing("", 1);
   for (std::size_t i = 0; i != std::size(rows); ++i) {
     CodeReader reader(nothing);
     rows[i].validator(reader, text);

@@ -51,7 +51,7 @@ bool has_lost_time(std::string const& text) {
 // Every attribute's value and every element's text, as the tag level takes them, into `values`. False when it
 // does not get to the end: content that the reader skips need not have good names.
 bool collect_values(std::string_view document, lmx::elmx_whitespace mode, std::set<std::string>* values) {
-  fuzz::Source source(document, std::max<std::size_t>(document.size(), 1));
+  TextSource source(document, std::max<std::size_t>(document.size(), 1));
   lmx::c_error error;
   lmx::c_xml xml(source, error, true);
   std::string text;

@@ -67,7 +67,7 @@ struct plain_attribute {
   char const* value() const { return name + name_length + 2; }
 };
 
-/// Text in the source's buffer; null when there is none.
+/// Text where it lies in the source's buffer.
 struct plain_text_view {
   char const* begin;
   char const* end;

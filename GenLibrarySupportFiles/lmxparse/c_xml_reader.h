@@ -172,13 +172,13 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   bool get_element_ur_value(std::string const& name, std::string* value, elmx_error* error, bool* is_empty);
 
   // The state that element classes read and set while a document is read.
-  int m_event = EXE_EOM;                                ///< The current event.
-  std::string m_name;                                   ///< The current element or attribute name.
-  std::string m_value;                                  ///< The last value read.
-  char const* m_code_file = "<unspecified>";            ///< Program file for error records; constant text.
-  int m_code_line = -1;                                 ///< Program line for error records.
-  bool m_skip_unknown = false;                          ///< Unknown attributes and elements are skipped.
-  c_xml_local* mp_local = nullptr;                      ///< The innermost namespace scope; borrowed.
+  int m_event = EXE_EOM;                      ///< The current event.
+  std::string m_name;                         ///< The current element or attribute name.
+  std::string m_value;                        ///< The last value read as text (usual attributes are not).
+  char const* m_code_file = "<unspecified>";  ///< Program file for error records; constant text.
+  int m_code_line = -1;                       ///< Program line for error records.
+  bool m_skip_unknown = false;                ///< Unknown attributes and elements are skipped.
+  c_xml_local* mp_local = nullptr;            ///< The innermost namespace scope; borrowed.
   s_known_elements const* mp_known_elements = nullptr;  ///< The selected table, or null; borrowed.
   std::vector<char> m_name_stack;                       ///< Names of the open elements, each closed by a NUL.
   std::vector<std::size_t> m_name_offsets;              ///< Where each of them starts.

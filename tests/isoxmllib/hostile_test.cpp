@@ -20,6 +20,7 @@
 #include "GenLibrarySupportFiles/lmxparse/limits.h"
 #include "isoxmllib/isoxmllib.h"
 #include "support/counted_heap.h"
+#include "support/text_source.h"
 #include "support/transfer_set.h"
 #include "transfer/reader/xmlReader.h"
 
@@ -41,31 +42,7 @@ constexpr std::size_t mib = std::size_t{1} << 20;
 
 // ---- Reading ----
 
-// A borrowed text, shown a file's buffer at a time.
-class ShownText : public lmx::c_read {
- public:
-  explicit ShownText(std::string_view text) : m_text(text) {}
-
-  int get() override {
-    if (mp_next == mp_end) {
-      const std::string_view window = m_text.substr(m_shown, 16384);
-      mp_next = reinterpret_cast<unsigned char const*>(window.data());
-      mp_end = mp_next + window.size();
-      m_shown += window.size();
-      if (window.empty()) return -1;
-    }
-    return *mp_next++;
-  }
-  int rewind() override {
-    m_shown = 0;
-    mp_next = mp_end = nullptr;
-    return 0;
-  }
-
- private:
-  const std::string_view m_text;
-  std::size_t m_shown = 0;
-};
+constexpr std::size_t shown_at_a_time = 16384;  // as much as from a file
 
 enum class Host { Strict, Tolerant };
 
@@ -124,7 +101,7 @@ Outcome read(std::string_view document, Host host) {
   const std::size_t before = counted_heap::restart();
   Outcome outcome;
   {
-    ShownText text(document);
+    TextSource text(document, shown_at_a_time);
     HostReader reader(text, host);
     Root root;
     const int code = root.unmarshal(reader);
