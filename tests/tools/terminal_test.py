@@ -7,6 +7,7 @@ import re
 import struct
 import subprocess
 import termios
+import threading
 import unicodedata
 import unittest
 
@@ -14,6 +15,7 @@ from tool import ALL_GOOD, EXAMPLE_SETS, SOME_FAILED, TransferSetTest, run, task
 
 COMPLETE = EXAMPLE_SETS / "complete"
 COMMANDS = ["growers", "farms", "fields", "products", "crops", "tasks", "rx", "questions", "devices"]
+END = b"\x04"  # in no text of a document, and escaped wherever a listing shows one
 BOLD, PLAIN = "\x1b[1m", "\x1b[0m"
 
 
@@ -32,17 +34,23 @@ class Terminal(TransferSetTest):
         # Without a shell of its own it is no session leader, so the terminal does not become its controlling one.
         process = subprocess.Popen([os.environ["ISOXML_TOOL"], *arguments], stdin=subprocess.DEVNULL, stdout=theirs,
                                    stderr=subprocess.PIPE, env=keep | environment)
-        os.close(theirs)
         written = b""
-        try:
-            while chunk := os.read(ours, 65536):
-                written += chunk
-        except OSError:  # the last writer has closed it
-            pass
+
+        # The terminal is held open and its end marked by hand: whoever reads from one that closes while its
+        # last lines arrive may be told of the end before them.
+        def mark_end():
+            _, self.talk = process.communicate()
+            os.write(theirs, END)
+
+        marker = threading.Thread(target=mark_end)
+        marker.start()
+        while not written.endswith(END):
+            written += os.read(ours, 65536)
+        marker.join()
+        os.close(theirs)
         os.close(ours)
-        _, self.talk = process.communicate()
         self.assertEqual(status, process.returncode)
-        return written.decode().replace("\r\n", "\n").splitlines()
+        return written.removesuffix(END).decode().replace("\r\n", "\n").splitlines()
 
 
 class Width(Terminal):
