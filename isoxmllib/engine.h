@@ -406,6 +406,7 @@ void begin_element(lmx::c_xml_writer& writer, char const* name);
 /// Writes an element under the tag `name`. An error in its children leaves it without an end tag.
 template <class X>
 lmx::elmx_error write_element(X const& element, lmx::c_xml_writer& writer, char const* name) {
+  lmx::c_xml_writer::gathering const gathered(writer);
   lmx::c_xml_writer_local const scope(writer);
   begin_element(writer, name);
   element.marshal_attributes(writer);
@@ -417,13 +418,11 @@ lmx::elmx_error write_element(X const& element, lmx::c_xml_writer& writer, char 
 template <class Field, class T>
 using marshal_bridge = lmx::c_marshal_bridge<lmx::c_xml_writer, Field, T, T>;
 
-/// Writes a required attribute, even if it was never set, or an optional one that is set. Not inlined: one
-/// copy for each kind of field serves all attributes, and no bridge stands in the frame of a class.
+/// Writes a required attribute, even if it was never set, or an optional one that is set.
 template <class Field, class T>
-[[gnu::noinline]] void write_attribute(lmx::c_xml_writer& writer, char const* name, Field const& field,
-                                       lmx::c_validation_spec<T> const& spec) {
-  marshal_bridge<Field, T> bridge(writer, spec, field);
-  writer.marshal_attribute_impl(name, bridge);
+void write_attribute(lmx::c_xml_writer& writer, char const* name, Field const& field,
+                     lmx::c_validation_spec<T> const& spec) {
+  if (lmx::detail::value_count(field) != 0) writer.marshal_attribute(name, field.get(), spec);
 }
 
 /// Writes one child for each value of the field; a required one has a value even if it was never set.

@@ -402,14 +402,17 @@ lmx::elmx_error Polygon::unmarshal_attributes_check(lmx::xmlReader& reader) {
 bool Polygon::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerPolygon, true, {elem_event_map, "PLN", __LINE__}, error); }
 lmx::elmx_error Polygon::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
 void Polygon::marshal_attributes(lmx::c_xml_writer& writer) const {
+  auto const* const rare = m_rare.find();
   write_attribute(writer, "A", m_Type, spec_one_of_1_to_12);
   write_attribute(writer, "B", m_Designator, spec_text_32);
   write_attribute(writer, "C", m_Area, spec_range_0_to_4294967294_uint32);
   write_attribute(writer, "D", m_Colour, spec_range_0_to_254_uint8);
   write_attribute(writer, "E", m_Id, spec_id_PLN_82);
-  write_attribute(writer, "P007_PolygonMetaData", m_rare.get().m_P007PolygonMetaData, spec_any_text);
-  write_attribute(writer, "P917_SprayProperty", m_rare.get().m_P917SprayProperty, spec_one_of_1_2);
-  write_attribute(writer, "P917_PlantProperty", m_rare.get().m_P917PlantProperty, spec_one_of_1_2);
+  if (rare != nullptr) {
+    write_attribute(writer, "P007_PolygonMetaData", rare->m_P007PolygonMetaData, spec_any_text);
+    write_attribute(writer, "P917_SprayProperty", rare->m_P917SprayProperty, spec_one_of_1_2);
+    write_attribute(writer, "P917_PlantProperty", rare->m_P917PlantProperty, spec_one_of_1_2);
+  }
 }
 lmx::elmx_error Polygon::marshal_child_elements(lmx::c_xml_writer& writer) const {
   return write_wrappers(writer, mInnerPolygon);
@@ -666,17 +669,22 @@ lmx::elmx_error Point::unmarshal_attributes_check(lmx::xmlReader& reader) {
 bool Point::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Point::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
 void Point::marshal_attributes(lmx::c_xml_writer& writer) const {
+  auto const* const rare = m_rare.find();
   write_attribute(writer, "A", m_Type, spec_one_of_1_to_11);
-  write_attribute(writer, "B", m_rare.get().m_Designator, spec_text_32);
+  if (rare != nullptr) {
+    write_attribute(writer, "B", rare->m_Designator, spec_text_32);
+  }
   write_attribute(writer, "C", m_North, spec_degrees_latitude);
   write_attribute(writer, "D", m_East, spec_degrees_longitude);
-  write_attribute(writer, "E", m_rare.get().m_Altitude, spec_range_minus_2147483647_to_2147483647_int32);
-  write_attribute(writer, "F", m_rare.get().m_Colour, spec_range_0_to_254_uint8);
-  write_attribute(writer, "G", m_rare.get().m_Id, spec_id_PNT_80);
-  write_attribute(writer, "H", m_rare.get().m_HorizontalAccuracy, spec_accuracy);
-  write_attribute(writer, "I", m_rare.get().m_VerticalAccuracy, spec_accuracy);
-  write_attribute(writer, "J", m_rare.get().m_Filename, spec_point_file_81);
-  write_attribute(writer, "K", m_rare.get().m_FileLength, spec_range_0_to_4294967294_uint32);
+  if (rare != nullptr) {
+    write_attribute(writer, "E", rare->m_Altitude, spec_range_minus_2147483647_to_2147483647_int32);
+    write_attribute(writer, "F", rare->m_Colour, spec_range_0_to_254_uint8);
+    write_attribute(writer, "G", rare->m_Id, spec_id_PNT_80);
+    write_attribute(writer, "H", rare->m_HorizontalAccuracy, spec_accuracy);
+    write_attribute(writer, "I", rare->m_VerticalAccuracy, spec_accuracy);
+    write_attribute(writer, "J", rare->m_Filename, spec_point_file_81);
+    write_attribute(writer, "K", rare->m_FileLength, spec_range_0_to_4294967294_uint32);
+  }
 }
 lmx::elmx_error Point::marshal_child_elements(lmx::c_xml_writer&) const {
   return lmx::ELMX_OK;

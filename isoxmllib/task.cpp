@@ -680,18 +680,21 @@ lmx::elmx_error ProcessDataVariable::unmarshal_attributes_check(lmx::xmlReader& 
 bool ProcessDataVariable::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerProcessDataVariable, false, {elem_event_map, "PDV", __LINE__}, error); }
 lmx::elmx_error ProcessDataVariable::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
 void ProcessDataVariable::marshal_attributes(lmx::c_xml_writer& writer) const {
+  auto const* const rare = m_rare.find();
   write_attribute(writer, "A", m_DDI, spec_bytes_2);
   write_attribute(writer, "B", m_Value, spec_range_minus_2147483648_to_2147483647_int32);
   write_attribute(writer, "C", m_ProductIdRef, spec_id_PDT_83);
   write_attribute(writer, "D", m_DeviceElementIdRef, spec_id_DET_84);
-  write_attribute(writer, "E", m_rare.get().m_ValuePresentationIdRef, spec_id_VPN_85);
-  write_attribute(writer, "F", m_rare.get().m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32);
-  write_attribute(writer, "G", m_rare.get().m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32);
-  write_attribute(writer, "P917_rxmap", m_rare.get().m_P917Rxmap, spec_attached_file_86);
-  write_attribute(writer, "P917_rxcolumn", m_rare.get().m_P917Rxcolumn, spec_text_64);
-  write_attribute(writer, "P917_rxunit", m_rare.get().m_P917Rxunit, spec_text_64);
-  write_attribute(writer, "P917_rxconvrate", m_rare.get().m_P917Rxconvrate, spec_scale_factor);
-  write_attribute(writer, "P917_rxwoconvrate", m_rare.get().m_P917Rxwoconvrate, spec_scale_factor);
+  if (rare != nullptr) {
+    write_attribute(writer, "E", rare->m_ValuePresentationIdRef, spec_id_VPN_85);
+    write_attribute(writer, "F", rare->m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32);
+    write_attribute(writer, "G", rare->m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32);
+    write_attribute(writer, "P917_rxmap", rare->m_P917Rxmap, spec_attached_file_86);
+    write_attribute(writer, "P917_rxcolumn", rare->m_P917Rxcolumn, spec_text_64);
+    write_attribute(writer, "P917_rxunit", rare->m_P917Rxunit, spec_text_64);
+    write_attribute(writer, "P917_rxconvrate", rare->m_P917Rxconvrate, spec_scale_factor);
+    write_attribute(writer, "P917_rxwoconvrate", rare->m_P917Rxwoconvrate, spec_scale_factor);
+  }
 }
 lmx::elmx_error ProcessDataVariable::marshal_child_elements(lmx::c_xml_writer& writer) const {
   return write_wrappers(writer, mInnerProcessDataVariable);
@@ -1048,15 +1051,20 @@ lmx::elmx_error Position::unmarshal_attributes_check(lmx::xmlReader& reader) {
 bool Position::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Position::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
 void Position::marshal_attributes(lmx::c_xml_writer& writer) const {
+  auto const* const rare = m_rare.find();
   write_attribute(writer, "A", m_North, spec_degrees_latitude);
   write_attribute(writer, "B", m_East, spec_degrees_longitude);
   write_attribute(writer, "C", m_Altitude, spec_range_minus_2147483648_to_2147483647_int32);
   write_attribute(writer, "D", m_Status, spec_one_of_0_to_15);
-  write_attribute(writer, "E", m_rare.get().m_PDOP, spec_dilution);
-  write_attribute(writer, "F", m_rare.get().m_HDOP, spec_dilution);
+  if (rare != nullptr) {
+    write_attribute(writer, "E", rare->m_PDOP, spec_dilution);
+    write_attribute(writer, "F", rare->m_HDOP, spec_dilution);
+  }
   write_attribute(writer, "G", m_NumberOfSatelites, spec_range_0_to_254_uint8);
-  write_attribute(writer, "H", m_rare.get().m_GpsUtcTime, spec_range_0_to_4294967294_uint32);
-  write_attribute(writer, "I", m_rare.get().m_PgsUtcDate, spec_range_0_to_65534_uint16);
+  if (rare != nullptr) {
+    write_attribute(writer, "H", rare->m_GpsUtcTime, spec_range_0_to_4294967294_uint32);
+    write_attribute(writer, "I", rare->m_PgsUtcDate, spec_range_0_to_65534_uint16);
+  }
 }
 lmx::elmx_error Position::marshal_child_elements(lmx::c_xml_writer&) const {
   return lmx::ELMX_OK;
@@ -1240,12 +1248,15 @@ lmx::elmx_error DataLogValue::unmarshal_attributes_check(lmx::xmlReader& reader)
 bool DataLogValue::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DataLogValue::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
 void DataLogValue::marshal_attributes(lmx::c_xml_writer& writer) const {
+  auto const* const rare = m_rare.find();
   write_attribute(writer, "A", m_PrecessDataDDI, spec_bytes_2);
   write_attribute(writer, "B", m_PrecessDataValue, spec_range_minus_2147483648_to_2147483647_int32);
   write_attribute(writer, "C", m_DeviceElementIdRef, spec_id_DET_48);
-  write_attribute(writer, "D", m_rare.get().m_PGN, spec_range_0_to_262143_uint32);
-  write_attribute(writer, "E", m_rare.get().m_PGNStartBit, spec_range_0_to_63_uint8);
-  write_attribute(writer, "F", m_rare.get().m_PGNStopBit, spec_range_0_to_63_uint8);
+  if (rare != nullptr) {
+    write_attribute(writer, "D", rare->m_PGN, spec_range_0_to_262143_uint32);
+    write_attribute(writer, "E", rare->m_PGNStartBit, spec_range_0_to_63_uint8);
+    write_attribute(writer, "F", rare->m_PGNStopBit, spec_range_0_to_63_uint8);
+  }
 }
 lmx::elmx_error DataLogValue::marshal_child_elements(lmx::c_xml_writer&) const {
   return lmx::ELMX_OK;

@@ -4,6 +4,7 @@ No loop and no error handling is generated. Everything that a class knows about 
 .cpp file, since alternatives cross the groups.
 """
 
+import itertools
 import textwrap
 
 import matcher
@@ -517,7 +518,14 @@ def marshal_function(result, name, steps):
 
 
 def marshal_attribute_steps(element):
-    return [f"write_attribute(writer, {quoted(value.xml)}, {value.member}, {value.spec});" for value in element.attributes]
+    steps = []
+    for rare, values in itertools.groupby(element.attributes, lambda value: value.rare):
+        fields = "rare->" if rare else ""
+        writes = [f"write_attribute(writer, {quoted(value.xml)}, {fields}m_{value.field}, {value.spec});" for value in values]
+        steps += ["if (rare != nullptr) {"] + [f"  {write}" for write in writes] + ["}"] if rare else writes
+    if any(value.rare for value in element.attributes):
+        steps.insert(0, "auto const* const rare = m_rare.find();")
+    return steps
 
 
 def marshal_content_steps(element):

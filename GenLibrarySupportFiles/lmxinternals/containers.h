@@ -83,6 +83,8 @@ class ct_rare {
   ct_rare& operator=(ct_rare&&) noexcept = default;
 
   bool is_there() const { return p != nullptr; }
+  /// The fields, null for an element that has none set.
+  T const* find() const { return p.get(); }
   /// The fields; of an element that has none set, fields that are not set.
   T const& get() const {
     static T const none{};

@@ -3,6 +3,7 @@
 // Private to the library.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -70,6 +71,24 @@ inline unsigned char const* skip_literal(unsigned char const* p, unsigned char c
     if (marks != 0) return p + before_mark(marks);
   }
   return p;
+}
+
+/// Copies up to 16 bytes, without the call that a copy of any length costs. The two may overlap.
+inline void copy_short(char* to, char const* from, std::size_t size) {
+  if (size >= 8) {
+    std::uint64_t const first = load(from);
+    std::uint64_t const last = load(from + size - 8);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(to + size - 8, &last, sizeof last);
+  } else if (size >= 4) {
+    char kept[8];
+    std::memcpy(kept, from, 4);
+    std::memcpy(kept + 4, from + size - 4, 4);
+    std::memcpy(to, kept, 4);
+    std::memcpy(to + size - 4, kept + 4, 4);
+  } else {
+    for (std::size_t i = 0; i != size; ++i) to[i] = from[i];
+  }
 }
 
 /// True when all eight bytes are "0" to "9".

@@ -3,13 +3,16 @@
 // by its text.
 #include "GenLibrarySupportFiles/lmxparse/c_xml_writer.h"
 
-#include <cstring>
+#include <exception>
 #include <locale>
 #include <ostream>
 #include <stdexcept>
+#include <typeinfo>
 
 #include "GenLibrarySupportFiles/lmxinternals/marshal_bridges.h"
 #include "GenLibrarySupportFiles/lmxparse/value_output.h"
+#include "GenLibrarySupportFiles/lmxtypes/date_time.h"
+#include "GenLibrarySupportFiles/lmxtypes/value_text.h"
 
 namespace lmx {
 
@@ -41,23 +44,11 @@ char const* first_given(char const* text, char const* other, std::string const& 
 
 }  // namespace
 
-// ---- Scopes ----
-
-c_xml_writer_local::c_xml_writer_local(c_xml_writer& writer)
-    : mp_writer(&writer), mp_parent(writer.mp_local), m_body_open(false) {
-  writer.mp_local = this;
-}
-
-c_xml_writer_local::~c_xml_writer_local() {
-  // A scope that was only told its writer has hidden nothing.
-  if (mp_writer != nullptr && mp_writer->mp_local == this) mp_writer->mp_local = mp_parent;
-}
-
 // ---- Construction ----
 
 c_xml_writer::c_xml_writer(std::ostream& stream, char const* tab, char const* nl, char const* attribute_tab,
                            char const* attribute_nl)
-    : mp_os(&stream),
+    : m_out(stream),
       mp_local(&m_root_local),
       m_tab(first_given(tab, nullptr, default_formats().tab)),
       m_nl(first_given(nl, nullptr, default_formats().nl)),
@@ -76,6 +67,7 @@ c_xml_writer::c_xml_writer(std::ostream& stream, int flags, char const* tab, cha
 c_xml_writer::~c_xml_writer() = default;
 
 void c_xml_writer::p_write_declaration(int flags) {
+  gathering const gathered(*this);
   p_write("<?xml version=\"1.0\" encoding=\"UTF-8\"");
   if ((flags & include_standalone) != 0) p_write(" standalone=\"yes\"");
   p_write("?>");
@@ -105,20 +97,26 @@ std::string const& c_xml_writer::get_default_nl() { return default_formats().nl;
 std::string const& c_xml_writer::get_default_attribute_tab() { return default_formats().attribute_tab; }
 std::string const& c_xml_writer::get_default_attribute_nl() { return default_formats().attribute_nl; }
 
-// ---- Bytes ----
+// ---- Gathering ----
 
-// Unformatted, so that a width left in the stream pads nothing. Null does what its formatted insertion would.
-void c_xml_writer::p_write(char const* text) {
-  if (text == nullptr) {
-    mp_os->setstate(std::ios_base::badbit);
-  } else {
-    mp_os->write(text, static_cast<std::streamsize>(std::strlen(text)));
+void c_xml_writer::gathering::p_begin() {
+  mr_writer.m_is_gathering = typeid(mr_writer) == typeid(c_xml_writer);
+  m_exceptions = std::uncaught_exceptions();
+}
+
+void c_xml_writer::gathering::p_end() {
+  mr_writer.m_is_gathering = false;
+  if (mr_writer.m_out.is_empty()) return;
+  if (std::uncaught_exceptions() == m_exceptions) return mr_writer.m_out.flush();
+  try {
+    mr_writer.m_out.flush();
+  } catch (...) {  // the exception that is already on its way tells of the failure
   }
 }
 
-void c_xml_writer::p_write(std::string const& text) {
-  mp_os->write(text.data(), static_cast<std::streamsize>(text.size()));
-}
+// ---- Bytes ----
+
+void c_xml_writer::p_refuse_null() { stream().setstate(std::ios_base::badbit); }
 
 void c_xml_writer::p_write_tabs(int count, std::string const& tab) {
   for (int i = 0; i < count; ++i) p_write(tab);
@@ -127,6 +125,7 @@ void c_xml_writer::p_write_tabs(int count, std::string const& tab) {
 // ---- Tags ----
 
 void c_xml_writer::write_start_tag(char const* name) {
+  gathering const gathered(*this);
   c_xml_writer_local* const parent = mp_local->mp_parent;
   if (parent != nullptr && !parent->m_body_open) {
     p_write(">");
@@ -141,6 +140,7 @@ void c_xml_writer::write_start_tag(char const* name) {
 }
 
 void c_xml_writer::write_end_tag(char const* name) {
+  gathering const gathered(*this);
   if (m_depth > 0) --m_depth;
   if (mp_local->m_body_open) {
     if (mp_local->m_child_line) p_write_tabs(m_depth, m_tab);
@@ -166,6 +166,7 @@ void c_xml_writer::p_open_body() {
 }
 
 void c_xml_writer::write_any_line(c_any_info const& info) {
+  gathering const gathered(*this);
   p_write_tabs(m_depth, m_tab);
   p_write(info.m_value);
   p_write(m_nl);
@@ -199,6 +200,7 @@ char const* c_xml_writer::get_namespace_prefix(std::string const& uri) const {
 void c_xml_writer::conditionally_write_ns_attrs(bool force_xsi) {
   if (m_ns_attrs_written) return;
   LMX_ASSERT(mp_ns_map);
+  gathering const gathered(*this);
   for (s_ns_map const* row = mp_ns_map; row->mp_uri != nullptr; ++row) {
     p_write_namespace(row->mp_prefix, row->mp_uri);
   }
@@ -209,7 +211,7 @@ void c_xml_writer::conditionally_write_ns_attrs(bool force_xsi) {
 }
 
 void c_xml_writer::p_write_namespace(char const* prefix, char const* uri) {
-  write_attribute_break(false);
+  p_write_attribute_break();
   p_write("xmlns");
   if (*prefix != '\0') {
     p_write(":");
@@ -242,6 +244,7 @@ void c_xml_writer::p_write_schema_locations() {
 // ---- Attributes ----
 
 void c_xml_writer::write_attribute_break(bool) {
+  gathering const gathered(*this);
   bool const is_first = !mp_local->m_attribute_written;
   mp_local->m_attribute_written = true;
   if (is_first || (m_attribute_nl.empty() && m_attribute_tab.empty())) {
@@ -254,32 +257,78 @@ void c_xml_writer::write_attribute_break(bool) {
   }
 }
 
-void c_xml_writer::p_begin_attribute(char const* name) {
+// A derived writer may write breaks of its own.
+void c_xml_writer::p_write_attribute_break() {
+  if (m_is_gathering) return c_xml_writer::write_attribute_break(false);
+  m_out.flush();
   write_attribute_break(false);
+}
+
+void c_xml_writer::p_begin_attribute(char const* name) {
+  p_write_attribute_break();
   p_write(name);
   p_write("=\"");
 }
 
 void c_xml_writer::p_write_default_attribute(char const* name, c_untyped_validation_spec const& spec) {
   p_begin_attribute(name);
-  output_convert_to_xml(*mp_os, spec.mp_default);
+  output_convert_to_xml(stream(), spec.mp_default);
   p_write("\"");
 }
 
 void c_xml_writer::marshal_attribute_impl(char const* name, c_untyped_marshal_bridge& bridge) {
+  gathering const gathered(*this);
   if (bridge.count() == 0) return;
   p_begin_attribute(name);
-  bridge.write_value(0);
+  p_ask(bridge).write_value(0);
   p_write("\"");
 }
 
+template <class T>
+void c_xml_writer::marshal_attribute(char const* name, T const& value, c_validation_spec<T> const& spec) {
+  constexpr std::ostream& (*usual_output)(std::ostream&, T const&) = &o_to_v;
+  gathering const gathered(*this);
+  p_begin_attribute(name);
+  if (spec.mp_o_to_v == usual_output) {
+    detail::put(m_out, value);
+  } else {
+    LMX_ASSERT_TEXT(spec.mp_o_to_v != nullptr, "o_to_v");
+    spec.mp_o_to_v(stream(), value);
+  }
+  m_out.append('"');
+}
+
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, std::string const&,
+                                                         c_validation_spec<std::string> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, unsigned char const&,
+                                                         c_validation_spec<unsigned char> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, unsigned short const&,
+                                                         c_validation_spec<unsigned short> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, int const&,
+                                                         c_validation_spec<int> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, unsigned int const&,
+                                                         c_validation_spec<unsigned int> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, bool const&,
+                                                         c_validation_spec<bool> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, double const&,
+                                                         c_validation_spec<double> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, c_binary const&,
+                                                         c_validation_spec<c_binary> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(char const*, c_datetime const&,
+                                                         c_validation_spec<c_datetime> const&);
+template ISOXML_API void c_xml_writer::marshal_attribute(
+    char const*, velmo::lmx::high_precision_c_decimal const&,
+    c_validation_spec<velmo::lmx::high_precision_c_decimal> const&);
+
 void c_xml_writer::marshal_attribute_or_default_impl(char const* name, c_untyped_marshal_bridge& bridge,
                                                      c_untyped_validation_spec const& spec) {
+  gathering const gathered(*this);
   if (bridge.count() == 0) return p_write_default_attribute(name, spec);
   marshal_attribute_impl(name, bridge);
 }
 
 void c_xml_writer::marshal_attribute_list_impl(char const* name, c_untyped_marshal_list_bridge& bridge) {
+  gathering const gathered(*this);
   if (bridge.count() == 0) return;
   p_begin_attribute(name);
   p_write_items(bridge, 0);
@@ -289,15 +338,16 @@ void c_xml_writer::marshal_attribute_list_impl(char const* name, c_untyped_marsh
 void c_xml_writer::marshal_attribute_list_or_default_impl(char const* name,
                                                           c_untyped_marshal_list_bridge& bridge,
                                                           c_untyped_validation_spec const& spec) {
+  gathering const gathered(*this);
   if (bridge.count() == 0) return p_write_default_attribute(name, spec);
   marshal_attribute_list_impl(name, bridge);
 }
 
 void c_xml_writer::p_write_items(c_untyped_marshal_list_bridge& bridge, std::size_t index) {
-  std::size_t const item_count = bridge.item_count(index);
+  std::size_t const item_count = p_ask(bridge).item_count(index);
   for (std::size_t item = 0; item != item_count; ++item) {
     if (item != 0) p_write(" ");
-    bridge.write_item(index, item);
+    p_ask(bridge).write_item(index, item);
   }
 }
 
@@ -305,13 +355,14 @@ void c_xml_writer::p_write_items(c_untyped_marshal_list_bridge& bridge, std::siz
 
 void c_xml_writer::marshal_element_impl(char const* name, c_untyped_marshal_bridge& bridge,
                                         s_ns_map const* map) {
+  gathering const gathered(*this);
   std::size_t const count = bridge.count();
   for (std::size_t index = 0; index != count; ++index) {
     c_xml_writer_local const scope(*this);
     p_begin_element(name, map);
-    if (!bridge.is_value_empty(index)) {
+    if (!p_ask(bridge).is_value_empty(index)) {
       p_open_body();
-      bridge.write_value(index);
+      p_ask(bridge).write_value(index);
     }
     write_end_tag(name);
   }
@@ -319,17 +370,19 @@ void c_xml_writer::marshal_element_impl(char const* name, c_untyped_marshal_brid
 
 void c_xml_writer::marshal_element_or_default_impl(char const* name, c_untyped_marshal_bridge& bridge,
                                                    c_untyped_validation_spec const& spec) {
+  gathering const gathered(*this);
   if (bridge.count() == 0) return p_write_default_element(name, spec);
   marshal_element_impl(name, bridge, nullptr);
 }
 
 void c_xml_writer::marshal_element_list_impl(char const* name, c_untyped_marshal_list_bridge& bridge,
                                              s_ns_map const* map) {
+  gathering const gathered(*this);
   std::size_t const count = bridge.count();
   for (std::size_t index = 0; index != count; ++index) {
     c_xml_writer_local const scope(*this);
     p_begin_element(name, map);
-    if (bridge.item_count(index) != 0) {
+    if (p_ask(bridge).item_count(index) != 0) {
       p_open_body();
       p_write_items(bridge, index);
     }
@@ -340,6 +393,7 @@ void c_xml_writer::marshal_element_list_impl(char const* name, c_untyped_marshal
 void c_xml_writer::marshal_element_list_or_default_impl(char const* name,
                                                         c_untyped_marshal_list_bridge& bridge,
                                                         c_untyped_validation_spec const& spec) {
+  gathering const gathered(*this);
   if (bridge.count() == 0) return p_write_default_element(name, spec);
   marshal_element_list_impl(name, bridge, nullptr);
 }
@@ -349,18 +403,20 @@ void c_xml_writer::p_write_default_element(char const* name, c_untyped_validatio
   p_begin_element(name, nullptr);
   if (*spec.mp_default != '\0') {
     p_open_body();
-    output_convert_to_xml(*mp_os, spec.mp_default);
+    output_convert_to_xml(stream(), spec.mp_default);
   }
   write_end_tag(name);
 }
 
 void c_xml_writer::marshal_element_body_impl(char const*, c_untyped_marshal_bridge& bridge) {
+  gathering const gathered(*this);
   if (bridge.is_value_empty(0)) return;
   p_open_body();
-  bridge.write_value(0);
+  p_ask(bridge).write_value(0);
 }
 
 void c_xml_writer::marshal_element_body_list_impl(char const*, c_untyped_marshal_list_bridge& bridge) {
+  gathering const gathered(*this);
   if (bridge.item_count(0) == 0) return;
   p_open_body();
   p_write_items(bridge, 0);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxinternals/output_buffer.h"
 #include "GenLibrarySupportFiles/lmxparse/c_error.h"
 #include "GenLibrarySupportFiles/lmxparse/namespaces.h"
 
@@ -19,6 +20,8 @@ class c_untyped_marshal_bridge;
 class c_untyped_marshal_list_bridge;
 class c_xml_writer;
 struct c_untyped_validation_spec;
+template <class T>
+struct c_validation_spec;
 
 /// The state of one open element, for its own lifetime the writer's innermost one. Scopes nest on the stack
 /// of the code that writes elements; the scope is opened before the start tag and closed after the end tag.
@@ -27,9 +30,9 @@ class ISOXML_API c_xml_writer_local {
   /// A scope of no writer, in which the body has begun: the level of the document.
   c_xml_writer_local() = default;
   /// A scope inside the innermost one of `writer`, which must outlive it.
-  explicit c_xml_writer_local(c_xml_writer& writer);
+  explicit inline c_xml_writer_local(c_xml_writer& writer);
   /// Makes the scope that this one hid the innermost one again.
-  ~c_xml_writer_local();
+  inline ~c_xml_writer_local();
   c_xml_writer_local(c_xml_writer_local const&) = delete;
   c_xml_writer_local& operator=(c_xml_writer_local const&) = delete;
 
@@ -54,7 +57,9 @@ class ISOXML_API c_xml_writer_local {
 ///
 /// Errors: the stream is not tested; a host looks at its state when the document is finished. Values are
 /// written as they stand, valid or not. Nothing is thrown but by the stream, if the host made it throw.
-/// Ownership: the stream is borrowed and must outlive the writer. It is not flushed.
+/// Ownership: the stream is borrowed and must outlive the writer. It is not flushed, but what an operation
+/// writes has reached it when the host has control again: after each of its calls, and within one wherever
+/// code of the host may run.
 /// Threads: one at a time. The default format strings are shared by all writers of the process and not
 /// guarded: set them before the first writer is made.
 class ISOXML_API c_xml_writer {
@@ -130,6 +135,29 @@ class ISOXML_API c_xml_writer {
   /// until the next one is added. A map must be selected.
   char const* get_namespace_prefix(std::string const& uri) const;
 
+  /// While one of these exists, what is written may wait in memory; it has reached the stream when the
+  /// outermost one ends, or earlier. A derived writer's bytes never wait, as its operations may write too.
+  class ISOXML_API gathering {
+   public:
+    explicit gathering(c_xml_writer& writer) : mr_writer(writer), m_is_outermost(!writer.m_is_gathering) {
+      if (m_is_outermost) p_begin();
+    }
+    /// Throws what the stream throws, unless something else has been thrown.
+    ~gathering() noexcept(false) {
+      if (m_is_outermost) p_end();
+    }
+    gathering(gathering const&) = delete;
+    gathering& operator=(gathering const&) = delete;
+
+   private:
+    void p_begin();
+    void p_end();
+
+    c_xml_writer& mr_writer;
+    bool m_is_outermost;
+    int m_exceptions = 0;
+  };
+
   // Elements. A name is written as it is; a null one leaves the stream in a bad state.
 
   /// Begins an element, whose scope has been opened.
@@ -144,6 +172,10 @@ class ISOXML_API c_xml_writer {
   void marshal_attribute_impl(char const* name, c_untyped_marshal_bridge& bridge);
   void marshal_attribute_or_default_impl(char const* name, c_untyped_marshal_bridge& bridge,
                                          c_untyped_validation_spec const& spec);
+  /// The same as the first for a value that is there, by the spec's `o_to_v`. For the types of the format's
+  /// values: text, numbers, truth values, decimals, dates and binary values.
+  template <class T>
+  void marshal_attribute(char const* name, T const& value, c_validation_spec<T> const& spec);
   /// Writes the items of the first value with a blank between them.
   void marshal_attribute_list_impl(char const* name, c_untyped_marshal_list_bridge& bridge);
   void marshal_attribute_list_or_default_impl(char const* name, c_untyped_marshal_list_bridge& bridge,
@@ -168,27 +200,43 @@ class ISOXML_API c_xml_writer {
   elmx_error report_error(elmx_error code, std::string const& item, char const* file, int line);
 
   /// Where the bytes go.
-  std::ostream& stream() const { return *mp_os; }
+  std::ostream& stream() const {
+    m_out.flush();
+    return m_out.stream();
+  }
   /// How many start tags wait for their end: 0 before and after a complete document.
   int depth() const { return m_depth; }
 
  private:
   friend class c_xml_writer_local;
 
-  void p_write(char const* text);
-  void p_write(std::string const& text);
+  // Null does what its formatted insertion into the stream would.
+  void p_write(char const* text) {
+    if (text == nullptr) return p_refuse_null();
+    for (; *text != '\0'; ++text) m_out.append(*text);
+  }
+  void p_write(std::string const& text) { m_out.append(text); }
+  void p_refuse_null();
   void p_write_tabs(int count, std::string const& tab);
+  void p_write_attribute_break();
   void p_write_declaration(int flags);
   void p_write_namespace(char const* prefix, char const* uri);
   void p_write_schema_locations();
   void p_begin_attribute(char const* name);
+  // A bridge may be the host's: before it is asked, the stream is brought up to date.
+  template <class Bridge>
+  Bridge& p_ask(Bridge& bridge) {
+    m_out.flush();
+    return bridge;
+  }
   void p_write_default_attribute(char const* name, c_untyped_validation_spec const& spec);
   void p_write_default_element(char const* name, c_untyped_validation_spec const& spec);
   void p_begin_element(char const* name, s_ns_map const* map);
   void p_open_body();
   void p_write_items(c_untyped_marshal_list_bridge& bridge, std::size_t index);
 
-  std::ostream* mp_os;
+  mutable detail::output_buffer m_out;
+  bool m_is_gathering = false;
   c_xml_writer_local* mp_local;
   c_xml_writer_local m_root_local;
   int m_depth = 0;
@@ -202,5 +250,15 @@ class ISOXML_API c_xml_writer {
   std::vector<std::pair<std::string, std::string>> m_namespaces;        // prefix, URI
   std::vector<std::pair<std::string, std::string>> m_schema_locations;  // namespace, location
 };
+
+c_xml_writer_local::c_xml_writer_local(c_xml_writer& writer)
+    : mp_writer(&writer), mp_parent(writer.mp_local), m_body_open(false) {
+  writer.mp_local = this;
+}
+
+c_xml_writer_local::~c_xml_writer_local() {
+  // A scope that was only told its writer has hidden nothing.
+  if (mp_writer != nullptr && mp_writer->mp_local == this) mp_writer->mp_local = mp_parent;
+}
 
 }  // namespace lmx

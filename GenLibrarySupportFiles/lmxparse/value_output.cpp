@@ -1,17 +1,18 @@
-// Text goes out in runs: bytes are looked at one by one, but only a byte that needs a reference splits a run.
 #include "GenLibrarySupportFiles/lmxparse/value_output.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 #include <ostream>
+#include <string_view>
 
 #include "GenLibrarySupportFiles/lmxparse/getters.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_decimal.h"
 #include "GenLibrarySupportFiles/lmxtypes/date_time.h"
+#include "GenLibrarySupportFiles/lmxtypes/value_text.h"
 
 namespace lmx {
 
@@ -39,40 +40,57 @@ char const* reference_for(Char const* text, std::size_t index) {
   }
 }
 
-std::ostream& write_escaped(std::ostream& out, char const* text, std::size_t size) {
-  std::size_t run = 0;
-  for (std::size_t index = 0; index != size; ++index) {
-    char const* const reference = reference_for(text, index);
-    if (reference == nullptr) continue;
-    write(out, text + run, text + index);
-    write(out, reference);
-    run = index + 1;
+void put_escaped(detail::output_buffer& out, std::string_view text) {
+  constexpr std::size_t bytes_at_once = 64;
+  constexpr std::size_t longest_reference = 6;
+  for (std::size_t from = 0; from < text.size(); from += bytes_at_once) {
+    std::size_t const to = std::min(text.size(), from + bytes_at_once);
+    char* end = out.room_for(longest_reference * (to - from));
+    for (std::size_t i = from; i != to; ++i) {
+      char const* const reference = reference_for(text.data(), i);
+      if (reference == nullptr) {
+        *end++ = text[i];
+      } else {
+        for (char const* p = reference; *p != '\0'; ++p) *end++ = *p;
+      }
+    }
+    out.advance_to(end);
   }
-  return write(out, text + run, text + size);
+}
+
+std::ostream& write_escaped(std::ostream& stream, std::string_view text) {
+  detail::output_buffer out(stream);
+  put_escaped(out, text);
+  out.flush();
+  return stream;
 }
 
 bool is_high_surrogate(std::uint32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool is_low_surrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 template <class Number>
-std::ostream& write_number(std::ostream& out, Number value, int precision) {
-  if (std::isnan(value)) return write(out, "NaN");
-  if (std::isinf(value)) return write(out, value < 0 ? "-INF" : "INF");
-  char digits[32];  // a sign, 14 digits, a point and up to four zeros, or an exponent
-  char const* const end =
-      std::to_chars(std::begin(digits), std::end(digits), value, std::chars_format::general, precision).ptr;
-  return write(out, digits, end);
+void put_number(detail::output_buffer& out, Number value, int precision) {
+  if (std::isnan(value)) return out.append("NaN");
+  if (std::isinf(value)) return out.append(value < 0 ? "-INF" : "INF");
+  constexpr std::size_t most = 32;  // a sign, 14 digits, a point and up to four zeros, or an exponent
+  char* const digits = out.room_for(most);
+  out.advance_to(std::to_chars(digits, digits + most, value, std::chars_format::general, precision).ptr);
 }
 
 }  // namespace
 
-std::ostream& output_convert_to_xml(std::ostream& out, std::string const& text) {
-  return write_escaped(out, text.data(), text.size());
+void detail::put(output_buffer& out, std::string const& value) { put_escaped(out, value); }
+void detail::put(output_buffer& out, bool const& value) { out.append(value ? "true" : "false"); }
+void detail::put(output_buffer& out, double const& value) {
+  constexpr int precision = 14;
+  put_number(out, value, precision);
 }
 
-std::ostream& output_convert_to_xml(std::ostream& out, char const* text) {
-  return write_escaped(out, text, std::strlen(text));
+std::ostream& output_convert_to_xml(std::ostream& out, std::string const& text) {
+  return write_escaped(out, text);
 }
+
+std::ostream& output_convert_to_xml(std::ostream& out, char const* text) { return write_escaped(out, text); }
 
 std::ostream& output_convert_to_xml(std::ostream& out, std::wstring const& text) {
   for (std::size_t index = 0; index != text.size(); ++index) {
@@ -100,18 +118,18 @@ std::ostream& output_convert_to_xml(std::ostream& out, wchar_t const* text) {
   return output_convert_to_xml(out, std::wstring(text));
 }
 
-std::ostream& output_convert_to_xml(std::ostream& out, bool value) {
-  return write(out, value ? "true" : "false");
-}
+std::ostream& output_convert_to_xml(std::ostream& out, bool value) { return detail::put_through(out, value); }
 
-std::ostream& output_convert_to_xml(std::ostream& out, float value) {
+std::ostream& output_convert_to_xml(std::ostream& stream, float value) {
   constexpr int precision = 7;
-  return write_number(out, value, precision);
+  detail::output_buffer out(stream);
+  put_number(out, value, precision);
+  out.flush();
+  return stream;
 }
 
 std::ostream& output_convert_to_xml(std::ostream& out, double value) {
-  constexpr int precision = 14;
-  return write_number(out, value, precision);
+  return detail::put_through(out, value);
 }
 
 std::ostream& output_convert_to_escaped(std::ostream& out, std::string const& text) {
@@ -130,13 +148,11 @@ std::ostream& output_convert_to_bool_digit(std::ostream& out, bool value) {
   return write(out, value ? "1" : "0");
 }
 
-std::ostream& o_to_v(std::ostream& out, std::string const& value) {
-  return output_convert_to_xml(out, value);
-}
+std::ostream& o_to_v(std::ostream& out, std::string const& value) { return detail::put_through(out, value); }
 
-std::ostream& o_to_v(std::ostream& out, bool const& value) { return output_convert_to_xml(out, value); }
+std::ostream& o_to_v(std::ostream& out, bool const& value) { return detail::put_through(out, value); }
 
-std::ostream& o_to_v(std::ostream& out, double const& value) { return output_convert_to_xml(out, value); }
+std::ostream& o_to_v(std::ostream& out, double const& value) { return detail::put_through(out, value); }
 
 std::ostream& o_to_v(std::ostream& out, c_datetime const& value) { return out << value; }
 

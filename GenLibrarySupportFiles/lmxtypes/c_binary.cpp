@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "GenLibrarySupportFiles/lmxinternals/characters.h"
+#include "GenLibrarySupportFiles/lmxtypes/value_text.h"
 
 namespace lmx {
 
@@ -109,21 +110,24 @@ void c_binary::from_hex(std::string const& text) {
   }
 }
 
-void c_binary::out_hex(std::ostream& out) const {
-  constexpr std::size_t bytes_per_write = 256;
-  char text[2 * bytes_per_write];
-  out.fill('0');  // kept: the old fill character does not come back
-  if (!empty()) out.width(0);
-  for (std::size_t from = 0; from < size(); from += bytes_per_write) {
-    std::size_t const to = std::min(size(), from + bytes_per_write);
-    char* end = text;
+void detail::put(output_buffer& out, c_binary const& value) {
+  out.stream().fill('0');  // kept: the old fill character does not come back
+  if (value.empty()) return;
+  out.stream().width(0);
+  constexpr std::size_t bytes_at_once = 256;
+  for (std::size_t from = 0; from < value.size(); from += bytes_at_once) {
+    std::size_t const to = std::min(value.size(), from + bytes_at_once);
+    char* end = out.room_for(2 * (to - from));
     for (std::size_t i = from; i < to; ++i) {
-      *end++ = hex_digits[m_value[i] >> 4];
-      *end++ = hex_digits[m_value[i] & 0x0F];
+      unsigned char const byte = value.data()[i];
+      *end++ = hex_digits[byte >> 4];
+      *end++ = hex_digits[byte & 0x0F];
     }
-    out.write(text, end - text);
+    out.advance_to(end);
   }
 }
+
+void c_binary::out_hex(std::ostream& out) const { detail::put_through(out, *this); }
 
 std::string c_binary::get_as_hex_string() const {
   return collect([this](std::ostream& out) { out_hex(out); });

@@ -42,6 +42,8 @@ class ISOXML_API c_binary {
 
   std::size_t size() const { return m_value.size(); }
   bool empty() const { return m_value.empty(); }
+  /// The bytes, valid until the object changes; not to be looked at when there are none.
+  unsigned char const* data() const noexcept { return m_value.data(); }
 
   /// Adds one byte at the end.
   void append(unsigned char byte) { m_value.push_back(byte); }

@@ -12,6 +12,7 @@
 #include <ostream>
 
 #include "GenLibrarySupportFiles/lmxinternals/characters.h"
+#include "GenLibrarySupportFiles/lmxtypes/value_text.h"
 
 namespace lmx {
 
@@ -228,8 +229,12 @@ double c_decimal::get_as_float() const noexcept {
 }
 
 std::ostream& operator<<(std::ostream& os, c_decimal const& value) {
-  std::string_view const text = value.m_text.view();
+  std::string_view const text = value.view();
   return os.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+void detail::put(output_buffer& out, velmo::lmx::high_precision_c_decimal const& value) {
+  out.append(value.view());
 }
 
 void v_to_o(velmo::lmx::high_precision_c_decimal& value, std::string const& text) { value = c_decimal(text); }

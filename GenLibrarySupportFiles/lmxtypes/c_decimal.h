@@ -96,7 +96,9 @@ class ISOXML_API c_decimal {
   /// ones. Fraction digits beyond the 290th are left out, so that the divisor stays finite.
   double get_as_float() const noexcept;
   /// The text that operator<< writes.
-  std::string get_as_string() const { return std::string(m_text.view()); }
+  std::string get_as_string() const { return std::string(view()); }
+  /// The same, valid until the value changes or moves.
+  std::string_view view() const noexcept { return m_text.view(); }
 
   /// Takes text that is as get_as_string() gives it, which nothing checks.
   void set_canonical(char const* begin, char const* end) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
+#include "GenLibrarySupportFiles/lmxinternals/words.h"
 
 namespace lmx::detail {
 
@@ -63,25 +64,9 @@ class ISOXML_API compact_text {
   void p_set_in_place_size(std::size_t length) noexcept {
     m_bytes[most_in_place] = static_cast<char>(most_in_place - length);
   }
-  // Few bytes at a time, which beats a call for so short a text.
   void p_fill(std::string_view text) noexcept {
-    std::size_t const length = text.size();
-    char const* const from = text.data();
-    char kept[size];
-    if (length >= 8) {
-      std::memcpy(kept, from, 8);
-      std::memcpy(kept + 8, from + length - 8, 8);
-      std::memcpy(m_bytes, kept, 8);
-      std::memcpy(m_bytes + length - 8, kept + 8, 8);
-    } else if (length >= 4) {
-      std::memcpy(kept, from, 4);
-      std::memcpy(kept + 4, from + length - 4, 4);
-      std::memcpy(m_bytes, kept, 4);
-      std::memcpy(m_bytes + length - 4, kept + 4, 4);
-    } else {
-      for (std::size_t i = 0; i != length; ++i) m_bytes[i] = from[i];
-    }
-    p_set_in_place_size(length);
+    words::copy_short(m_bytes, text.data(), text.size());
+    p_set_in_place_size(text.size());
   }
   void p_copy(compact_text const& other) {
     if (other.p_is_allocated()) {

@@ -6,14 +6,13 @@
 #include <stdlib.h>  // strtod_l
 
 #include <algorithm>
-#include <charconv>
-#include <iterator>
 #include <limits>
 #include <ostream>
 
 #include "GenLibrarySupportFiles/lmxinternals/characters.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_binary.h"
 #include "GenLibrarySupportFiles/lmxtypes/lexical.h"
+#include "GenLibrarySupportFiles/lmxtypes/value_text.h"
 
 namespace lmx {
 
@@ -40,13 +39,6 @@ s_scanned_integer scan_integer(char const* p, unsigned int base) {
     scanned.magnitude = std::min(scanned.magnitude * base + digit_value(*p), too_large);
   }
   return scanned;
-}
-
-template <class T>
-std::ostream& write_digits(std::ostream& out, T value) {
-  char digits[std::numeric_limits<T>::digits10 + 2];  // one more digit, and a sign
-  auto const end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-  return out.write(digits, end - digits);
 }
 
 }  // namespace
@@ -97,13 +89,13 @@ void v_to_o(double& value, std::string const& text) {
 void v_to_o(c_binary& value, std::string const& text) { value.from_hex(text); }
 
 std::ostream& o_to_v(std::ostream& out, unsigned char const& value) {
-  return write_digits(out, static_cast<unsigned int>(value));
+  return detail::put_through(out, value);
 }
-
-std::ostream& o_to_v(std::ostream& out, unsigned short const& value) { return write_digits(out, value); }
-std::ostream& o_to_v(std::ostream& out, int const& value) { return write_digits(out, value); }
-std::ostream& o_to_v(std::ostream& out, unsigned int const& value) { return write_digits(out, value); }
-
-std::ostream& o_to_v(std::ostream& out, c_binary const& value) { return output_convert_to_hex(out, value); }
+std::ostream& o_to_v(std::ostream& out, unsigned short const& value) {
+  return detail::put_through(out, value);
+}
+std::ostream& o_to_v(std::ostream& out, int const& value) { return detail::put_through(out, value); }
+std::ostream& o_to_v(std::ostream& out, unsigned int const& value) { return detail::put_through(out, value); }
+std::ostream& o_to_v(std::ostream& out, c_binary const& value) { return detail::put_through(out, value); }
 
 }  // namespace lmx

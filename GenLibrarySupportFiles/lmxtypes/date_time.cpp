@@ -19,6 +19,7 @@
 #include "GenLibrarySupportFiles/lmxinternals/characters.h"
 #include "GenLibrarySupportFiles/lmxtypes/conversions.h"
 #include "GenLibrarySupportFiles/lmxtypes/lexical.h"
+#include "GenLibrarySupportFiles/lmxtypes/value_text.h"
 
 namespace lmx {
 
@@ -107,6 +108,10 @@ void append_real(std::string& text, double value) {
 // The smallest values would get an exponent, which no type here allows: anything below 0.001 is printed
 // with 1 added, and the 1 replaced. Zero goes the same way, so that a negative zero has no sign.
 void append_seconds(std::string& text, double secs) {
+  constexpr double most_usual = 60.0;
+  if (secs >= 0.0 && secs <= most_usual && secs == static_cast<int>(secs)) {
+    return append_number(text, static_cast<int>(secs));  // the same text, sooner
+  }
   constexpr double lowest_without_exponent = 0.001;
   bool const is_small = secs < lowest_without_exponent;
   std::size_t const start = text.size();
@@ -256,7 +261,15 @@ void c_datetime_base::output_seconds(std::ostream& out) const {
   write(out, text);
 }
 
-std::ostream& operator<<(std::ostream& out, c_datetime const& value) { return write_date(out, value); }
+void detail::put(output_buffer& out, c_datetime const& value) {
+  out.stream().fill('0');
+  out.stream().width(0);
+  out.append(value.get_as_string());
+}
+
+std::ostream& operator<<(std::ostream& out, c_datetime const& value) {
+  return detail::put_through(out, value);
+}
 std::ostream& operator<<(std::ostream& out, c_date const& value) { return write_date(out, value); }
 std::ostream& operator<<(std::ostream& out, c_time const& value) { return write_date(out, value); }
 std::ostream& operator<<(std::ostream& out, c_gyear const& value) { return write_date(out, value); }

@@ -1243,6 +1243,171 @@ TEST(Stream, ThatThrowsLeavesNoScopeBehind) {
   }
 }
 
+// Whoever is asked during an operation may write to the stream as well, not only by way of the writer.
+TEST(Stream, IsUpToDateWheneverCodeOfTheHostRuns) {
+  Document document;
+  c_xml_writer& writer = document.writer;
+  c_xml_writer_local const scope(writer);
+  writer.write_start_tag("R");
+  EXPECT_EQ("<R", document.text());
+  writer.marshal_attribute("A", string("1"), spec<string>);
+  EXPECT_EQ("<R A=\"1\"", document.text());
+  writer.write_attribute_break(false);
+  EXPECT_EQ("<R A=\"1\"\n\t\t", document.text());
+  document.out << "B=\"2\"";
+  attribute(writer, "C", "3");
+  document.out << ">";
+  writer.write_any_line({});
+  EXPECT_EQ("<R A=\"1\"\n\t\tB=\"2\"\n\t\tC=\"3\">\t\n", document.text());
+  writer.write_end_tag("R");
+  EXPECT_EQ("<R A=\"1\"\n\t\tB=\"2\"\n\t\tC=\"3\">\t\n/>\n", document.text());
+}
+
+TEST(Stream, IsUpToDateWhenABridgeIsAsked) {
+  /// Notes what stands in the stream at each question.
+  class Witness : public lmx::c_untyped_marshal_bridge {
+   public:
+    explicit Witness(std::ostringstream& out) : mr_out(out) {}
+    std::size_t count() override { return 2; }
+    string const& ref_text() override { throw std::logic_error("not mixed"); }
+    bool is_value_empty(std::size_t) override {
+      m_seen.push_back(mr_out.str());
+      return false;
+    }
+    void write_value(std::size_t index) override {
+      m_seen.push_back(mr_out.str());
+      mr_out << index;
+    }
+    strings m_seen;
+
+   private:
+    std::ostringstream& mr_out;
+  };
+  Document document;
+  Witness witness(document.out);
+  document.writer.marshal_element_impl("E", witness, nullptr);
+  EXPECT_EQ((strings{"<E", "<E>", "<E>0</E>\n<E", "<E>0</E>\n<E>"}), witness.m_seen);
+  EXPECT_EQ("<E>0</E>\n<E>1</E>\n", document.text());
+}
+
+TEST(Stream, IsUpToDateWhenADerivedWriterIsAsked) {
+  class Witness : public c_xml_writer {
+   public:
+    explicit Witness(std::ostringstream& out) : c_xml_writer(out), mr_out(out) {}
+    void write_attribute_break(bool) override {
+      m_seen.push_back(mr_out.str());
+      mr_out << '|';
+    }
+    strings m_seen;
+
+   private:
+    std::ostringstream& mr_out;
+  };
+  std::ostringstream out;
+  Witness writer(out);
+  c_xml_writer::gathering const all(writer);
+  writer.add_namespace("p", "urn:p");
+  writer.add_namespace("q", "urn:q");
+  EXPECT_EQ(lmx::ELMX_OK, Node({"R", {{"A", "1"}}}).marshal(writer));
+  EXPECT_EQ((strings{"<R", "<R|xmlns:p=\"urn:p\"", "<R|xmlns:p=\"urn:p\"|xmlns:q=\"urn:q\""}), writer.m_seen);
+  EXPECT_EQ("<R|xmlns:p=\"urn:p\"|xmlns:q=\"urn:q\"|A=\"1\"/>\n", out.str());
+}
+
+std::ostream& witness_to_length(std::ostream& out, string const& value) {
+  return out << static_cast<std::ostringstream&>(out).str().size() << value;
+}
+
+std::ostream& refuse(std::ostream&, string const&) { throw std::logic_error("refused"); }
+
+constexpr lmx::c_validation_spec<string> spec_with_output(std::ostream& (*output)(std::ostream&,
+                                                                                  string const&)) {
+  return {lmx::EXWS_COLLAPSE, "",    &lmx::lexical_validator_empty, &lmx::value_validator_empty<string>,
+          &lmx::v_to_o,       output};
+}
+
+TEST(Stream, IsUpToDateForAnOutputOfTheHosts) {
+  lmx::c_validation_spec<string> const own = spec_with_output(&witness_to_length);
+  Document document;
+  {
+    c_xml_writer::gathering const all(document.writer);
+    c_xml_writer_local const scope(document.writer);
+    document.writer.write_start_tag("R");
+    document.writer.marshal_attribute("A", string("<"), own);
+    document.writer.marshal_attribute("B", string("<"), spec<string>);
+    document.writer.write_end_tag("R");
+  }
+  EXPECT_EQ("<R A=\"6<\"\n\t\tB=\"&lt;\"/>\n", document.text());
+}
+
+TEST(Stream, GetsWhatWasGatheredAtTheLatestAtTheEnd) {
+  Document document;
+  {
+    c_xml_writer::gathering const all(document.writer);
+    {
+      c_xml_writer::gathering const part(document.writer);
+      document.writer.write_start_tag("R");
+    }
+    EXPECT_EQ("<R", static_cast<std::ostringstream&>(document.writer.stream()).str())
+        << "when it is asked for";
+    document.writer.write_end_tag("R");
+  }
+  EXPECT_EQ("<R</R>\n", document.text());
+}
+
+TEST(Stream, GetsWhatWasGatheredBeforeAnException) {
+  lmx::c_validation_spec<string> const own = spec_with_output(&refuse);
+  Document document;
+  EXPECT_THROW(
+      {
+        c_xml_writer::gathering const all(document.writer);
+        c_xml_writer_local const scope(document.writer);
+        document.writer.write_start_tag("R");
+        document.writer.marshal_attribute("A", string(), own);
+      },
+      std::logic_error);
+  EXPECT_EQ("<R A=\"", document.text());
+  EXPECT_THROW(
+      {
+        c_xml_writer::gathering const all(document.writer);
+        document.writer.write_attribute_break(false);
+        throw std::logic_error("of the host");
+      },
+      std::logic_error);
+  EXPECT_EQ("<R A=\" ", document.text());
+}
+
+TEST(Stream, GetsLongAndShortPiecesInOrder) {
+  for (std::size_t const length : {1u, 15u, 16u, 17u, 63u, 64u, 65u, 4000u, 4095u, 4096u, 4097u, 20000u}) {
+    SCOPED_TRACE(length);
+    string const plain(length, 'x');
+    string const special(length, '"');
+    std::vector<unsigned char> const bytes(length, 0xA5);
+    string hexadecimal;
+    string references;
+    for (std::size_t i = 0; i != length; ++i) {
+      hexadecimal += "A5";
+      references += "&quot;";
+    }
+    Document document;
+    {
+      c_xml_writer::gathering const all(document.writer);
+      c_xml_writer_local const scope(document.writer);
+      document.writer.write_start_tag(plain.c_str());
+      document.writer.marshal_attribute("A", plain, spec<string>);
+      document.writer.marshal_attribute("B", special, spec<string>);
+      document.writer.marshal_attribute("C", lmx::c_binary(bytes.data(), static_cast<unsigned int>(length)),
+                                        spec<lmx::c_binary>);
+      document.writer.marshal_attribute("D", decimal(lmx::c_decimal(string(length, '7'))), spec<decimal>);
+      document.writer.marshal_attribute("E", 7, spec<int>);
+      document.writer.write_end_tag("R");
+    }
+    string const line = "\"\n\t\t";
+    EXPECT_EQ("<" + plain + " A=\"" + plain + line + "B=\"" + references + line + "C=\"" + hexadecimal +
+                  line + "D=\"" + string(length, '7') + line + "E=\"7\"/>\n",
+              document.text());
+  }
+}
+
 TEST(Stream, IsNotFlushed) {
   NarrowBuffer buffer(1000);
   std::ostream out(&buffer);
