@@ -20,12 +20,13 @@ mkdir -p "$findings"
 fixed_addresses="setarch $(uname -m) -R"
 $fixed_addresses true 2>/dev/null || fixed_addresses=
 
-# run <target> <libFuzzer's arguments>...: with all that a run has in common.
+# run <target> <libFuzzer's arguments>...: with all that a run has in common. The time-out is for a hang: one input
+# may cause the free expansion of entities in each of a dozen readings, which takes a sanitized build a while.
 run() {
   target=$1
   shift
   ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1 UBSAN_OPTIONS=print_stacktrace=1 \
-    $fixed_addresses "$build/fuzz/fuzz_$target" -timeout=60 -rss_limit_mb=3000 \
+    $fixed_addresses "$build/fuzz/fuzz_$target" -timeout=300 -rss_limit_mb=3000 \
     -artifact_prefix="$findings/$target-" "$@"
 }
 
