@@ -177,6 +177,8 @@ bool Device::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const
     case 'C': return binding::accept_attribute(reader, m_SoftwareVersion, spec_text_32, attribute);
     case 'D': return binding::accept_attribute(reader, m_ClientName, spec_bytes_8, attribute);
     case 'E': return binding::accept_attribute(reader, m_SerialNumber, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(reader, m_StructureLabel, spec_structure_label_50, attribute);
+    case 'G': return binding::accept_attribute(reader, m_LocalizationLabel, spec_localization_label_51, attribute);
   }
   return false;
 }

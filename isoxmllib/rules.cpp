@@ -130,7 +130,44 @@ bool accept_bytes(lmx::c_binary& value, lmx::plain_text_view text, std::size_t m
   for (char const* p = text.begin; p != text.end; ++p) {
     if (!lmx::is_hex_digit(*p)) return false;
   }
-  value.from_hex(std::string(text.begin, text.end));
+  value.from_hex_digits({text.begin, size_of(text)});
+  return true;
+}
+
+bool accept_date_time(lmx::c_datetime& value, lmx::plain_text_view text) {
+  static constexpr char shape[] = "0000-00-00T00:00:00";  // a "0" for any digit
+  constexpr std::size_t shape_size = sizeof shape - 1;
+  constexpr std::ptrdiff_t most_decimals = 9;  // then number and scale are exact, whoever divides them
+  if (size_of(text) < shape_size) return false;
+  char const* p = text.begin;
+  for (std::size_t i = 0; i != shape_size; ++i) {
+    if (shape[i] == '0' ? !lmx::is_digit(p[i]) : p[i] != shape[i]) return false;
+  }
+  auto const number_at = [&text](std::size_t at) {
+    return static_cast<unsigned>(text.begin[at] - '0') * 10 + static_cast<unsigned>(text.begin[at + 1] - '0');
+  };
+  std::uint64_t seconds = number_at(17);
+  std::uint64_t scale = 1;
+  p += shape_size;
+  if (p != text.end && *p == '.') {
+    char const* const decimals = ++p;
+    for (; p != text.end && lmx::is_digit(*p); ++p) {
+      if (p - decimals == most_decimals) return false;
+      seconds = seconds * 10 + static_cast<unsigned>(*p - '0');
+      scale *= 10;
+    }
+    if (p == decimals) return false;
+  }
+  bool const is_utc = p != text.end && *p == 'Z';
+  if (p + (is_utc ? 1 : 0) != text.end) return false;
+  value.m_year = static_cast<int>(number_at(0) * 100 + number_at(2));
+  value.m_month = number_at(5);
+  value.m_day = number_at(8);
+  value.m_hours = number_at(11);
+  value.m_mins = number_at(14);
+  value.m_secs = static_cast<double>(seconds) / static_cast<double>(scale);
+  value.m_tz_offset = 0;
+  value.m_is_utc = is_utc;
   return true;
 }
 

@@ -16,6 +16,7 @@
 #include "GenLibrarySupportFiles/lmxtypes/c_binary.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_decimal.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_regex.h"
+#include "GenLibrarySupportFiles/lmxtypes/date_time.h"
 #include "GenLibrarySupportFiles/lmxtypes/lexical.h"
 #include "isoxmllib/enums.h"
 
@@ -169,5 +170,8 @@ struct whole_parts {
 bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range);
 
 bool accept_bytes(lmx::c_binary& value, lmx::plain_text_view text, std::size_t minimum, std::size_t maximum);
+
+/// A date with a time of day, in local time or with a "Z", of seconds with at most nine decimals.
+bool accept_date_time(lmx::c_datetime& value, lmx::plain_text_view text);
 
 }  // namespace binding

@@ -938,6 +938,8 @@ bool Time::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
 }
 bool Time::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Start, spec_date_time, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Stop, spec_date_time, attribute);
     case 'C': return binding::accept_attribute(reader, m_Duration, spec_range_0_to_4294967294_uint32, attribute);
     case 'D': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2_4_to_8, attribute);
   }
@@ -1438,6 +1440,8 @@ bool AllocationStamp::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
 }
 bool AllocationStamp::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
+    case 'A': return binding::accept_attribute(reader, m_Start, spec_date_time, attribute);
+    case 'B': return binding::accept_attribute(reader, m_Stop, spec_date_time, attribute);
     case 'C': return binding::accept_attribute(reader, m_Duration, spec_range_0_to_4294967294_uint32, attribute);
     case 'D': return binding::accept_attribute(reader, m_Type, spec_one_of_1_4, attribute);
   }
@@ -2044,6 +2048,8 @@ bool ControlAssignment::accept_attribute(lmx::xmlReader& reader, lmx::plain_attr
   switch (attribute.letter()) {
     case 'A': return binding::accept_attribute(reader, m_SourceClientName, spec_bytes_8, attribute);
     case 'B': return binding::accept_attribute(reader, m_UserClientName, spec_bytes_8, attribute);
+    case 'C': return binding::accept_attribute(reader, m_SourceDeviceStructureLabel, spec_structure_label_28, attribute);
+    case 'D': return binding::accept_attribute(reader, m_UserDeviceStructureLabel, spec_structure_label_upper_first_29, attribute);
     case 'E': return binding::accept_attribute(reader, m_SourceDeviceElementNumber, spec_range_0_to_4095_uint16, attribute);
     case 'F': return binding::accept_attribute(reader, m_UserDevieceElementNumber, spec_range_0_to_4095_uint16, attribute);
     case 'G': return binding::accept_attribute(reader, m_ProcessDataDDI, spec_bytes_2, attribute);

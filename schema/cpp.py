@@ -866,7 +866,7 @@ def matchers_source(schema):
 
 def has_acceptor(value):
     rule = value.rule
-    return value.type in ("string", "decimal") or rule.minimum is not None or (value.type == "binary" and not rule.pattern)
+    return value.type in ("string", "decimal", "binary", "date_time") or rule.minimum is not None
 
 
 def acceptor(schema, value):
@@ -884,8 +884,12 @@ def acceptor(schema, value):
         body = f"accept_integer(value, text, {rule.minimum}LL, {rule.maximum}LL)"
     elif value.type == "decimal":
         body = f"accept_decimal(value, text, {{{inner_bounds(rule)}}})"
+    elif value.type == "date_time":
+        body = "accept_date_time(value, text)"
     else:
         body = f"accept_bytes(value, text, {rule.min_bytes}, {rule.max_bytes})"
+        if rule.pattern:
+            body = f"matcher_{pattern_names(schema)[rule.pattern]}.matches(text) && {body}"
     return f"[]({value.cpp_type}& value, {text}) {{ return {body}; }}"
 
 

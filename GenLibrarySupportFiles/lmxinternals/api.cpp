@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <stdexcept>
+#include <string>
 
 namespace lmx::detail {
 
@@ -9,6 +11,10 @@ void assertion_failed(char const* condition, char const* file, int line) noexcep
   std::fprintf(stderr, "%s:%d: assertion failed: %s\n", file, line, condition);
   std::fflush(stderr);
   std::abort();
+}
+
+void throw_range_check(std::size_t index, std::size_t size) {
+  throw std::out_of_range("vector::_M_range_check: " + std::to_string(index) + " >= " + std::to_string(size));
 }
 
 }  // namespace lmx::detail

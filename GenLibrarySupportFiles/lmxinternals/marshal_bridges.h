@@ -54,9 +54,6 @@ bool is_empty_value(T const&) {
 inline bool is_empty_value(std::string const& value) { return value.empty(); }
 inline bool is_empty_value(c_binary const& value) { return value.empty(); }
 
-/// Throws `std::out_of_range` in the words of `vector::at`.
-[[noreturn]] ISOXML_API void throw_range_check(std::size_t index, std::size_t size);
-
 /// How the values of one kind of field are counted and found.
 template <class T, class V, class C>
 std::size_t value_count(ct_simple_pod_single<T, V, C> const&) {

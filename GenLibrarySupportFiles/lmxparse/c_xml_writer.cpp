@@ -6,7 +6,6 @@
 #include <exception>
 #include <locale>
 #include <ostream>
-#include <stdexcept>
 #include <typeinfo>
 
 #include "GenLibrarySupportFiles/lmxinternals/marshal_bridges.h"
@@ -459,9 +458,5 @@ c_untyped_marshal_bridge::~c_untyped_marshal_bridge() = default;
 bool c_untyped_marshal_list_bridge::is_multi() { return false; }
 
 c_untyped_marshal_list_bridge::~c_untyped_marshal_list_bridge() = default;
-
-void detail::throw_range_check(std::size_t index, std::size_t size) {
-  throw std::out_of_range("vector::_M_range_check: " + std::to_string(index) + " >= " + std::to_string(size));
-}
 
 }  // namespace lmx

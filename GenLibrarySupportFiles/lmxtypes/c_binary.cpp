@@ -72,18 +72,18 @@ void c_binary::set(unsigned char const* bytes, unsigned int size) {
 }
 
 unsigned char* c_binary::get(unsigned char* out, unsigned int size) const {
-  std::copy_n(m_value.begin(), std::min<std::size_t>(size, m_value.size()), out);
+  std::copy_n(data(), std::min<std::size_t>(size, m_value.size()), out);
   return out;
 }
 
 unsigned char& c_binary::operator[](unsigned int i_in) {
   LMX_ASSERT(i_in < m_value.size());
-  return m_value[i_in];
+  return p_as_byte(m_value[i_in]);
 }
 
 unsigned char const& c_binary::operator[](unsigned int i_in) const {
   LMX_ASSERT(i_in < m_value.size());
-  return m_value[i_in];
+  return p_as_byte(m_value[i_in]);
 }
 
 c_binary& c_binary::operator+=(unsigned char byte) {
@@ -92,7 +92,7 @@ c_binary& c_binary::operator+=(unsigned char byte) {
 }
 
 bool c_binary::equal(unsigned char const* bytes, unsigned int size) const {
-  return std::equal(m_value.begin(), m_value.end(), bytes, bytes + size);
+  return std::equal(data(), data() + m_value.size(), bytes, bytes + size);
 }
 
 bool c_binary::is_valid_hex(std::string const& text) {
@@ -100,13 +100,13 @@ bool c_binary::is_valid_hex(std::string const& text) {
          std::all_of(text.begin(), text.end(), [](char c) { return hex_row(c).is_digit; });
 }
 
-void c_binary::from_hex(std::string const& text) {
+void c_binary::from_hex_digits(std::string_view text) {
   m_value.clear();
-  m_value.reserve(text.size() / 2);
-  for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
-    unsigned int const high = hex_row(text[i]).value;
-    unsigned int const low = hex_row(text[i + 1]).value;
-    m_value.push_back(static_cast<unsigned char>(high << 4 | low));
+  m_value.resize(text.size() / 2);
+  for (std::size_t i = 0; i != m_value.size(); ++i) {
+    unsigned int const high = hex_row(text[2 * i]).value;
+    unsigned int const low = hex_row(text[2 * i + 1]).value;
+    m_value[i] = static_cast<char>(high << 4 | low);
   }
 }
 
@@ -179,8 +179,8 @@ void c_binary::p_base64_convert_24bits_to_bytes(unsigned int bits, unsigned int 
 void c_binary::out_base64(std::ostream& out) const {
   unsigned int bits = 0;
   unsigned int count = 0;
-  for (unsigned char const byte : m_value) {
-    bits = bits << 8 | byte;
+  for (char const byte : m_value) {
+    bits = bits << 8 | static_cast<unsigned char>(byte);
     if (++count < 3) continue;
     p_convert_24bits_to_4x6bits(out, bits, count);
     bits = count = 0;

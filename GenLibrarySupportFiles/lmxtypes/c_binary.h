@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <iosfwd>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 
@@ -37,16 +37,18 @@ class ISOXML_API c_binary {
   unsigned char& operator[](unsigned int i_in);
   unsigned char const& operator[](unsigned int i_in) const;
   /// One byte. Errors: throws `std::out_of_range` unless `index < size()`.
-  unsigned char& at(unsigned int index) { return m_value.at(index); }
-  unsigned char const& at(unsigned int index) const { return m_value.at(index); }
+  unsigned char& at(unsigned int index) { return p_as_byte(m_value[p_checked(index)]); }
+  unsigned char const& at(unsigned int index) const { return p_as_byte(m_value[p_checked(index)]); }
 
   std::size_t size() const { return m_value.size(); }
   bool empty() const { return m_value.empty(); }
   /// The bytes, valid until the object changes; not to be looked at when there are none.
-  unsigned char const* data() const noexcept { return m_value.data(); }
+  unsigned char const* data() const noexcept {
+    return reinterpret_cast<unsigned char const*>(m_value.data());
+  }
 
   /// Adds one byte at the end.
-  void append(unsigned char byte) { m_value.push_back(byte); }
+  void append(unsigned char byte) { m_value.push_back(static_cast<char>(byte)); }
   c_binary& operator+=(unsigned char byte);
 
   /// Same size and same bytes. There is no ordering.
@@ -63,7 +65,9 @@ class ISOXML_API c_binary {
 
   /// Replaces the content: one byte for each pair of digits. A last digit without a partner is dropped.
   /// Nothing is checked, and other characters give senseless bytes.
-  void from_hex(std::string const& text);
+  void from_hex(std::string const& text) { from_hex_digits(text); }
+  /// The same of a text that is no string.
+  void from_hex_digits(std::string_view text);
   /// Replaces the content: three bytes for each four base64 characters, and one, one or two for one, two or
   /// three characters left over. All other characters are stepped over.
   void from_base64(std::string const& text);
@@ -76,12 +80,18 @@ class ISOXML_API c_binary {
   std::string get_as_base64_string() const;
 
  private:
+  std::size_t p_checked(std::size_t index) const {
+    if (index >= size()) detail::throw_range_check(index, size());
+    return index;
+  }
+  static unsigned char& p_as_byte(char& c) { return reinterpret_cast<unsigned char&>(c); }
+  static unsigned char const& p_as_byte(char const& c) { return reinterpret_cast<unsigned char const&>(c); }
   static unsigned int p_base64_char_to_6_bits(int c);
   static char p_6_bits_to_base64_char(unsigned int bits);
   static void p_convert_24bits_to_4x6bits(std::ostream& out, unsigned int bits, unsigned int count);
   void p_base64_convert_24bits_to_bytes(unsigned int bits, unsigned int count);
 
-  std::vector<unsigned char> m_value;
+  std::string m_value;  // which keeps few bytes in place
 };
 
 /// Writes `value` as `out_hex` does. Gives the stream.
