@@ -79,7 +79,7 @@ def edges(value):
     """The texts at the very limits of the rule, all of them good."""
     rule = value.rule
     if rule.one_of:
-        return list(rule.one_of)
+        return list(rule.one_of) + [f" {rule.one_of[0]} ", f"\t{rule.one_of[-1]}  "]
     if rule.minimum is not None:
         return [rule.minimum, rule.maximum, "+" + rule.maximum, "000" + rule.maximum, f" {rule.maximum} "]
     if rule.low is not None:

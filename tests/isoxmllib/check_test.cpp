@@ -149,6 +149,51 @@ TEST(Check, GivesThePathThroughChildrenWithoutTheirWrappers) {
   EXPECT_EQ("/ISO11783_TaskData/VersionMinor", gap(data, "ISO11783_TaskData"));  // own attributes come first
 }
 
+TEST(Check, MissesTheFirstKindOfChildWhereOneMustBeThere) {
+  ColourLegend legend;
+  legend.SetId("");
+  EXPECT_EQ("/CLD/CRG", gap(legend, "CLD"));
+  Polygon polygon;
+  polygon.SetType("");
+  EXPECT_EQ("/PLN/LSG", gap(polygon, "PLN"));
+  LineString line;
+  line.SetType("");
+  EXPECT_EQ("/LSG/PNT", gap(line, "LSG"));
+  GuidanceGroup group;
+  group.SetId("");
+  EXPECT_EQ("/GGP/GPN", gap(group, "GGP"));
+  GuidancePattern pattern;
+  pattern.SetId("");
+  pattern.SetType("");
+  EXPECT_EQ("/GPN/LSG", gap(pattern, "GPN"));
+  GuidanceAllocation allocation;
+  allocation.SetGuidanceGroupIdRef("");
+  EXPECT_EQ("/GAN/ASP", gap(allocation, "GAN"));
+  Device device;
+  device.SetId("");
+  device.SetClientName(lmx::c_binary());
+  device.SetStructureLabel(lmx::c_binary());
+  device.SetLocalizationLabel(lmx::c_binary());
+  EXPECT_EQ("/DVC/DET", gap(device, "DVC"));
+
+  // A wrapper is enough, whatever it holds; and attributes are looked at first.
+  legend.AppendInnerColourLegend();
+  EXPECT_EQ("", gap(legend, "CLD"));
+  EXPECT_EQ("/PLN/A", gap(Polygon(), "PLN"));
+  TaskData data = complete_task_data();
+  data.AppendInnerTaskData().AppendColourLegend().SetId("");
+  EXPECT_EQ("/ISO11783_TaskData/CLD/CRG", gap(data, "ISO11783_TaskData"));
+}
+
+TEST(Check, GivesThePathToAnAttributeOfATask) {
+  Task task;
+  EXPECT_EQ("/TSK/A", gap(task, "TSK"));
+  task.SetId("");
+  TaskData data = complete_task_data();
+  data.AppendInnerTaskData().AppendTask() = task;
+  EXPECT_EQ("/ISO11783_TaskData/TSK/G", gap(data, "ISO11783_TaskData"));
+}
+
 TEST(Check, GivesThePathToADeepGap) {
   LinkList list = complete_link_list();
   LinkGroup& group = list.AppendInnerLinkList().AppendLinkGroup();

@@ -4,12 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "isoxmllib/isoxmllib.h"
 #include "support/document.h"
+#include "support/writing.h"
+#include "transfer/IsoDDIConstants.h"
 
 namespace {
 
@@ -66,11 +69,39 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"<CLD A=\"CLD1\">\n\n</CLD>", 32, 3, 3, 3},
         LineCase{"<CLD A=\"CLD1\">\n<Foo/>\n</CLD>", 21, 3, 3, 3}, LineCase{"\n\n<Foo/>\n\n", 34, 5, 5, 5},
         LineCase{"<TSK A=\"TSK1\" G=\"1", 23, 1, 1, 1}, LineCase{"<TSK A=\"TSK1\" G=\"1\"\n", 31, 2, 2, 2},
+        LineCase{"<!DOCTYPE x [\n<!ENTITY\n a \"1\">\n]>\n<TSK A=\"TSK1\"/>\n", 25, 6, 6, 5},
+        LineCase{"", 34, 1, 1, 1}, LineCase{" \n\n ", 34, 3, 3, 3}, LineCase{"<!-- a\n -->\n", 34, 3, 3, 3},
+        LineCase{"<?xml version=\"1.0\"?>\n<?p i?>\n<!DOCTYPE a>\n", 34, 4, 4, 4},
+        LineCase{"\xEF\xBB\xBF\n", 34, 2, 2, 2}, LineCase{"<Foo>\n\n", 5, 3, 3, 3},
+        LineCase{"<Foo>\n<a>\n</b>\n</Foo>\n", 5, 3, 3, 3}, LineCase{"<Foo>\n&nbsp;\n</Foo>\n", 5, 2, 2, 2},
+        LineCase{"hello\n<TSK/>", 6, 1, 1, 1}, LineCase{"</x>\n", 31, 1, 1, 1},
         LineCase{"<?xml version=\"1.0\"?>\n<ISO11783_TaskData\n  VersionMajor=\"4\"\n  VersionMinor=\"3\"\n"
                  "  ManagementSoftwareManufacturer=\"a\"\n  ManagementSoftwareVersion=\"1\"\n  "
                  "DataTransferOrigin=\"1\">\n"
                  "  <TSK A=\"TSK1\"/>\n</ISO11783_TaskData>\n",
                  25, 9, 9, 8}));
+
+// The writer begins a tag's attributes beside its name, so no name ends a line.
+TEST(WrittenDocuments, GetTheTrueLineOfEachFault) {
+  constexpr std::size_t zones = 5;
+  for (std::size_t bad = 0; bad != zones; ++bad) {
+    Root root;
+    Task& task = root.GetTaskData().AppendInnerTaskData().AppendTask();
+    root.GetTaskData().SetVersionMajor("4");
+    root.GetTaskData().SetDataTransferOrigin("1");
+    task.SetId("TSK1");
+    task.SetStatus("1");
+    for (std::size_t i = 0; i != zones; ++i) {
+      TreatmentZone& zone = task.AppendInnerTask().AppendTreatmentZone();
+      zone.SetDesignator(i == bad ? std::string(33, 'x') : "zone");
+      zone.AppendInnerTreatmentZone().AppendProcessDataVariable().SetDDI(IsoDDIConstants::toHexBinary(1, 4));
+    }
+    const std::string document = written(root);
+    const std::string before = document.substr(0, document.find("xxx"));
+    const auto line = 1 + static_cast<int>(std::count(before.begin(), before.end(), '\n'));
+    EXPECT_EQ((Reading{19, line, "B"}), read_document(document)) << document;
+  }
+}
 
 // ---- Codes ----
 
@@ -149,6 +180,11 @@ INSTANTIATE_TEST_SUITE_P(
                     CodeCase{"byte order mark", "\xEF\xBB\xBF<TSK A=\"TSK1\" G=\"1\"/>", 0},
                     CodeCase{"lower-case encoding name",
                              "<?xml version=\"1.0\" encoding=\"utf-8\"?><TSK A=\"TSK1\" G=\"1\"/>", 0},
+                    CodeCase{"bad markup", "<!x><TSK A=\"TSK1\" G=\"1\"/>", 31},
+                    CodeCase{"bad markup behind an external entity",
+                             "<!DOCTYPE x [<!ENTITY e SYSTEM \"f\">]><!x><TSK A=\"TSK1\" G=\"1\"/>", 17},
+                    CodeCase{"bad markup behind an unknown parameter entity",
+                             "<!DOCTYPE x [%p;]><!x><TSK A=\"TSK1\" G=\"1\"/>", 41},
                     CodeCase{"DOCTYPE before the root", "<!DOCTYPE TSK><TSK A=\"TSK1\" G=\"1\"/>", 0}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -184,8 +220,17 @@ INSTANTIATE_TEST_SUITE_P(
                  "<DVC A=\"DVC1\" D=\"0102030405060708\" F=\"01020304050607\" G=\"FF010203040506\">"
                  "<DPT A=\"1\" B=\"0001\" C=\"1\"/></DVC>",
                  0},
+        CodeCase{"DVC without DET but with DPD",
+                 "<DVC A=\"DVC1\" D=\"0102030405060708\" F=\"01020304050607\" G=\"FF010203040506\">"
+                 "<DPD A=\"1\" B=\"0001\" C=\"1\" D=\"1\"/></DVC>",
+                 0},
+        CodeCase{"DVC without DET but with DVP",
+                 "<DVC A=\"DVC1\" D=\"0102030405060708\" F=\"01020304050607\" G=\"FF010203040506\">"
+                 "<DVP A=\"1\" B=\"0\" C=\"1\" D=\"0\"/></DVC>",
+                 0},
         CodeCase{"TSK may be empty", "<TSK A=\"TSK1\" G=\"1\"/>", 0},
         CodeCase{"allocation without stamp", "<DAN A=\"0102030405060708\" C=\"DVC1\"/>", 0},
+        CodeCase{"text cut off", "<TSK A=\"TSK1\" G=\"1\"><P917_comment>hi", 29},
         CodeCase{"questions may be empty", "<P917_Questions/>", 0},
         CodeCase{"comment may be empty", "<P917_comment/>", 0},
         CodeCase{"attributes only: blanks, comments, instructions",
@@ -252,6 +297,32 @@ INSTANTIATE_TEST_SUITE_P(
             "<P917_Question P917_Uuid=\" 92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"string\">"
             "<P917_Prompt/></P917_Question>",
             22}));
+
+TEST(NegativeZero, IsBelowEveryDecimalMinimumOfZero) {
+  const auto pattern = [](char const* attribute, std::string const& zero) {
+    return std::string("<GPN A=\"GPN1\" C=\"1\" ") + attribute + "=\"" + zero +
+           "\"><LSG A=\"5\"><PNT A=\"6\" C=\"1\" D=\"1\"/></LSG></GPN>";
+  };
+  for (std::string const zero : {"-0", "-0.0", "-.0", "-0.", "-00.000"}) {
+    SCOPED_TRACE(zero);
+    for (char const* const dilution : {"E", "F"}) {
+      EXPECT_EQ((Reading{37, 1, dilution}), read_document("<PTN A=\"1\" B=\"1\" D=\"1\" " +
+                                                          std::string(dilution) + "=\"" + zero + "\"/>"));
+    }
+    for (char const* const accuracy : {"H", "I"}) {
+      EXPECT_EQ((Reading{37, 1, accuracy}), read_document("<PNT A=\"1\" C=\"1\" D=\"1\" " +
+                                                          std::string(accuracy) + "=\"" + zero + "\"/>"));
+    }
+    for (char const* const heading_or_accuracy : {"G", "J", "K"}) {
+      EXPECT_EQ((Reading{37, 1, heading_or_accuracy}), read_document(pattern(heading_or_accuracy, zero)));
+    }
+    EXPECT_EQ(0, read_document("<PNT A=\"1\" C=\"" + zero + "\" D=\"" + zero + "\"/>").code);
+    EXPECT_EQ(0, read_document("<PTN A=\"" + zero + "\" B=\"" + zero + "\" D=\"1\"/>").code);
+    EXPECT_EQ(0, read_document("<GRD A=\"" + zero + "\" B=\"" + zero + "\" C=\"" + zero + "\" D=\"" + zero +
+                               "\" E=\"1\" F=\"1\" G=\"GRD00001\" I=\"1\"/>")
+                     .code);
+  }
+}
 
 // ---- What a tolerant reader is told ----
 
@@ -373,6 +444,30 @@ TEST(Children, OutOfPlaceAreDroppedWithAllThatFollowsThem) {
             root.GetWorkerAllocation().GetInnerWorkerAllocation().chosen);
 }
 
+TEST(Children, OfWhichOneIsTakenLoseTheSecondAndAllBehindIt) {
+  const std::string stamp = "<ASP A=\"2024-01-01T00:00:00\" D=\"1\"/>";
+  const std::string last = "<ASP A=\"2024-01-02T00:00:00\" D=\"1\"/>";
+  for (std::string const parent :
+       {"DAN A=\"0102030405060708\" C=\"DVC1\"", "WAN A=\"WKR1\"", "PAN A=\"PDT1\"",
+        "CAT A=\"0102030405060708\" B=\"0102030405060708\" C=\"01020304050607\" D=\"01020304050607\" E=\"0\" "
+        "F=\"0\" G=\"0001\"",
+        "CAN", "GST A=\"GGP1\" B=\"GPN1\""}) {
+    const std::string tag = parent.substr(0, 3);
+    Root root;
+    TempDir directory;
+    TolerantReader reader(directory
+                              .write("document.xml", '<' + parent + "><Foo/>" + stamp + "<Bar/>" + last +
+                                                         "<Foo/>" + last + "</" + tag + '>')
+                              .c_str());
+    EXPECT_EQ(0, root.unmarshal(reader)) << parent;
+    EXPECT_TRUE(reader.reports.empty()) << parent << ": " << reader.reports[0].first;
+    EXPECT_EQ((std::vector<std::string>{"Foo", "Bar", "ASP", "Foo", "ASP"}), reader.unknown) << parent;
+    const std::string kept = written(root);
+    EXPECT_NE(std::string::npos, kept.find("2024-01-01")) << kept;
+    EXPECT_EQ(std::string::npos, kept.find("2024-01-02")) << kept;
+  }
+}
+
 TEST(Children, NestToAnyDepthThatIsUsual) {
   std::string document = "<PDV A=\"0001\" B=\"1\"/>";
   for (int i = 0; i != 2; ++i) document = "<PDV A=\"0001\" B=\"1\">" + document + "</PDV>";
@@ -446,8 +541,45 @@ TEST(Questions, AChildElementInsideAPromptIsRefused) {
   EXPECT_EQ(10, read_document(question("<P917_Prompt>a<b/></P917_Prompt>")).code);
 }
 
-TEST(Questions, AttributesOfTheirChildrenAreIgnored) {
-  EXPECT_EQ(0, read_document(question("<P917_Prompt x=\"1\" xmlns:p=\"u\">a</P917_Prompt>")).code);
+TEST(Questions, DropASecondPromptAndWhatFollows) {
+  Root root;
+  TempDir directory;
+  TolerantReader reader(
+      directory
+          .write("document.xml", question("<P917_Prompt>a</P917_Prompt><P917_Prompt>b</P917_Prompt>"
+                                          "<P917_Reply>c</P917_Reply><P917_Option>d</P917_Option>"))
+          .c_str());
+  ASSERT_EQ(0, root.unmarshal(reader));
+  EXPECT_TRUE(reader.reports.empty());
+  EXPECT_EQ((std::vector<std::string>{"P917_Prompt", "P917_Reply", "P917_Option"}), reader.unknown);
+  EXPECT_EQ("a", root.GetP917Question().GetPrompt());
+  EXPECT_FALSE(root.GetP917Question().IssetReply());
+  EXPECT_EQ(0u, root.GetP917Question().SizeOption());
+}
+
+TEST(Questions, AttributesOfTheirChildrenAreIgnoredWithoutAskingTheHost) {
+  class Reader : public lmx::xmlReader {
+   public:
+    using xmlReader::xmlReader;
+    lmx::elmx_error on_unknown_attribute(std::string const& name, std::vector<char> const&, char const*,
+                                         int) override {
+      asked += name;
+      return lmx::ELMX_OK;
+    }
+    std::string asked;
+  };
+  Root root;
+  TempDir directory;
+  Reader reader(directory
+                    .write("document.xml",
+                           question("<P917_Prompt x=\"1\" xmlns:p=\"u\" p:y=\"&nbsp;\">a</P917_Prompt>"
+                                    "<P917_Reply x=\"1\">b</P917_Reply><P917_Option x=\"1\">c</P917_Option>"))
+                    .c_str());
+  EXPECT_EQ(0, root.unmarshal(reader));
+  EXPECT_EQ("", reader.asked);
+  EXPECT_EQ("a", root.GetP917Question().GetPrompt());
+  EXPECT_EQ("b", root.GetP917Question().GetReply());
+  EXPECT_EQ("c", root.GetP917Question().GetOption(0));
 }
 
 TEST(Questions, ErrorsAfterAPromptReachTheHost) {
@@ -460,6 +592,15 @@ TEST(Questions, ErrorsAfterAPromptReachTheHost) {
                             .c_str());
   EXPECT_EQ(34, root.unmarshal(reader));
   EXPECT_NE(std::string::npos, reader.get_error_message().find("Unexpected end of message"));
+
+  const std::string start =
+      "<P917_Question P917_Uuid=\"92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"string\">";
+  const std::vector<Report> reports = {{34, "P917_Question"}, {10, "P917_Question"}};
+  for (std::string const children :
+       {"<P917_Prompt>a</P917_Prompt>", "<P917_Prompt>a</P917_Prompt><P917_Reply>b</P917_Reply>",
+        "<P917_Prompt>a</P917_Prompt><P917_Option>b</P917_Option>"}) {
+    EXPECT_EQ(reports, tolerated(start + children)) << children;
+  }
 }
 
 TEST(Questions, UnknownElementsBetweenThemVanish) {
@@ -498,6 +639,42 @@ TEST(WhiteSpace, GoesFromVersionsAndStaysInFreeTexts) {
   Task const& read = data.GetInnerTaskData(0).GetTask(0);
   EXPECT_EQ("TSK1", read.GetId());
   EXPECT_EQ("  x ", read.GetP007JobMetaData());
+}
+
+TEST(WhiteSpace, StaysInEveryTextThatIsFree) {
+  const std::string blanks = " a \t b  ";
+  const auto set = [&](std::string const& attribute) { return ' ' + attribute + "=\"" + blanks + "\""; };
+  const std::string line = "<LSG A=\"1\"><PNT A=\"1\" C=\"1\" D=\"1\"/></LSG>";
+  Root root;
+  ASSERT_EQ(0,
+            read_document(root, "<XFC><FRM A=\"FRM1\" B=\"b\"" + set("P917_middleName") +
+                                    "/><PFD A=\"PFD1\" C=\"c\" D=\"1\"" + set("P917_middleName") +
+                                    "><PLN A=\"1\"" + set("P007_PolygonMetaData") + '>' + line +
+                                    "</PLN><GGP A=\"GGP1\"" + set("P007_GuidanceGroupMetaData") +
+                                    "><GPN A=\"GPN1\" C=\"1\"" + set("P007_GuidanceMetaData") + '>' + line +
+                                    "</GPN></GGP></PFD><TSK A=\"TSK1\" G=\"1\"" + set("P007_JobMetaData") +
+                                    "><P917_comment>" + blanks + "</P917_comment></TSK></XFC>")
+                .code);
+  ExternalFileContent const& read = root.GetExternalFileContent();
+  EXPECT_EQ(blanks, read.GetInnerExternalFileContent(0).GetFarm(0).GetMiddleName());
+  Field const& field = read.GetInnerExternalFileContent(1).GetField(0);
+  EXPECT_EQ(blanks, field.GetMiddleName());
+  EXPECT_EQ(blanks, field.GetInnerField(0).GetPolygon(0).GetP007PolygonMetaData());
+  GuidanceGroup const& group = field.GetInnerField(1).GetGuidanceGroup(0);
+  EXPECT_EQ(blanks, group.GetP007GuidanceGroupMetaData());
+  EXPECT_EQ(blanks, group.GetInnerGuidanceGroup(0).GetGuidancePattern(0).GetP007GuidanceMetaData());
+  Task const& task = read.GetInnerExternalFileContent(2).GetTask(0);
+  EXPECT_EQ(blanks, task.GetP007JobMetaData());
+  EXPECT_EQ(blanks, task.GetInnerTask(0).GetP917Comment().GetP917Comment());
+
+  Root asked;
+  ASSERT_EQ(0,
+            read_document(asked, question("<P917_Prompt>" + blanks + "</P917_Prompt><P917_Reply>" + blanks +
+                                          "</P917_Reply><P917_Option>" + blanks + "</P917_Option>"))
+                .code);
+  EXPECT_EQ(blanks, asked.GetP917Question().GetPrompt());
+  EXPECT_EQ(blanks, asked.GetP917Question().GetReply());
+  EXPECT_EQ(blanks, asked.GetP917Question().GetOption(0));
 }
 
 // ---- Hostile numbers ----

@@ -102,6 +102,26 @@ TEST(EveryClass, CarriesTheNamespacesWhenItIsTheDocument) {
   });
 }
 
+TEST(EveryClass, CarriesTheSchemaLocationWhenItIsTheDocument) {
+  for_each_class([](ElementRow const& row, Root const&) {
+    Root root;
+    EXPECT_EQ(0, read_document(root, row.filled).code);
+    std::ostringstream out;
+    c_xml_writer writer(out);
+    writer.add_schema_location("", "isoxml.xsd");
+    EXPECT_EQ(0, row.marshal(root, writer));
+    const std::string location =
+        " xmlns:xsi=\"http://www.w3.org/2001/"
+        "XMLSchema-instance\"\n\t\txsi:noNamespaceSchemaLocation=\"isoxml.xsd\"";
+    const std::string name = std::string("<") + row.tag;
+    const std::string filled = row.filled;
+    const bool has_attributes = filled[name.size()] == ' ';
+    const std::string rest = filled.substr(name.size() + (has_attributes ? 1 : 0));
+    EXPECT_EQ(name + location + (has_attributes ? "\n\t\t" : "") + rest, out.str())
+        << "and nothing else changes";
+  });
+}
+
 // ---- Bytes ----
 
 TEST(Written, NewObjectsByTheirText) {

@@ -266,6 +266,14 @@ TEST(Reports, OfWhatCannotBeReadNameTheElementOrAttribute) {
   }
 }
 
+TEST(Reports, EndWithTheFirstThatTheHostDoesNotTolerate) {
+  Reading<> reading("<AFE A='x'><Foo/></AFE>", tolerate({20, 22, 25}));
+  EXPECT_EQ(10, reading.error);
+  EXPECT_EQ("20 A, 22 A, 25 AFE, 10 AFE", reading.reader.reports());
+  EXPECT_EQ(10, reading.reader.debug_error().m_code);
+  EXPECT_EQ(25, Reading<>("<AFE A='x'><Foo/></AFE>", tolerate({20, 22})).error);
+}
+
 TEST(Reports, AreWhatTheHostReads) {
   Reading<> reading("<LGP A='LGP1' B='1'>\n<LNK A='TSK1'/>\n</LGP>");
   EXPECT_EQ(25, reading.error);
@@ -383,6 +391,60 @@ TEST(Membership, OfNoAlternativeReadsNothing) {
   EXPECT_EQ("", reader.reports());
   LinkGroup group;
   EXPECT_EQ(0, group.unmarshal(reader, reader.m_name));  // still there to be read
+}
+
+// What a wrapper makes of a start tag that is none of its alternatives' when a host hands it one: nothing,
+// unless its run must not be empty.
+template <class Inner>
+void expect_of_a_stranger(char const* name, std::string const& reports) {
+  SCOPED_TRACE(name);
+  TempDir directory;
+  const std::string path = directory.write("DOCUMENT.XML", header + "</ISO11783_TaskData>");
+  for (const bool is_tolerant : {false, true}) {
+    RecordingReader reader(path, is_tolerant ? tolerant() : strict());
+    lmx::elmx_error error = lmx::ELMX_OK;
+    reader.get_element_event(&error, &reader.m_name);
+    Inner wrapper;
+    EXPECT_EQ(is_tolerant || reports.empty(), wrapper.unmarshal(reader, &error));
+    EXPECT_EQ(is_tolerant || reports.empty() ? 0 : std::stoi(reports), error);
+    EXPECT_EQ(reports, reader.reports());
+    EXPECT_EQ(Inner::NothingChosen, wrapper.chosen);
+    TaskData data;
+    EXPECT_EQ(0, data.unmarshal(reader, reader.m_name)) << "still there to be read";
+  }
+}
+
+TEST(Wrapper, RefusesAStrangerOnlyWhereItsRunMustNotBeEmpty) {
+#define OF_A_STRANGER(X, reports) expect_of_a_stranger<Inner##X>(#X, reports)
+  OF_A_STRANGER(ColourLegend, "31 CLD");
+  OF_A_STRANGER(LineString, "31 LSG");
+  OF_A_STRANGER(Polygon, "31 PLN");
+  OF_A_STRANGER(TaskData, "");
+  OF_A_STRANGER(ExternalFileContent, "");
+  OF_A_STRANGER(LinkList, "");
+  OF_A_STRANGER(LinkGroup, "");
+  OF_A_STRANGER(Product, "");
+  OF_A_STRANGER(CropType, "");
+  OF_A_STRANGER(CulturalPractice, "");
+  OF_A_STRANGER(CodedComment, "");
+  OF_A_STRANGER(Field, "");
+  OF_A_STRANGER(GuidanceGroup, "");
+  OF_A_STRANGER(GuidancePattern, "");
+  OF_A_STRANGER(GuidanceAllocation, "");
+  OF_A_STRANGER(GuidanceShift, "");
+  OF_A_STRANGER(Task, "");
+  OF_A_STRANGER(TreatmentZone, "");
+  OF_A_STRANGER(ProcessDataVariable, "");
+  OF_A_STRANGER(Time, "");
+  OF_A_STRANGER(AllocationStamp, "");
+  OF_A_STRANGER(CommentAllocation, "");
+  OF_A_STRANGER(DeviceAllocation, "");
+  OF_A_STRANGER(WorkerAllocation, "");
+  OF_A_STRANGER(ProductAllocation, "");
+  OF_A_STRANGER(ControlAssignment, "");
+  OF_A_STRANGER(Device, "");
+  OF_A_STRANGER(DeviceElement, "");
+#undef OF_A_STRANGER
 }
 
 // --- Values and copies -----------------------------------------------------------------------------------

@@ -12,6 +12,7 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -225,6 +226,62 @@ TEST(APipe, ReadsLikeAFileHoweverSmallItsPortionsAre) {
       writer.join();
     }
   }
+}
+
+// A file of which nothing more can be read once `good` bytes were taken: its descriptor then stands for a
+// directory, and what was in no buffer is lost.
+class FailingFile : public lmx::c_read {
+ public:
+  FailingFile(std::string const& path, std::size_t good) : m_good(good), m_file(path.c_str()) {
+    for (auto const& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+      std::error_code ignored;
+      if (std::filesystem::read_symlink(entry.path(), ignored) == path) {
+        m_descriptor = std::stoi(entry.path().filename());
+      }
+    }
+  }
+  bool has_descriptor() const { return m_descriptor != -1; }
+  int get() override {
+    if (m_taken++ == m_good) {
+      const int directory = open("/", O_RDONLY | O_DIRECTORY);
+      dup2(directory, m_descriptor);
+      close(directory);
+    }
+    return m_file.get();
+  }
+  int rewind() override { return -1; }
+
+ private:
+  std::size_t m_good;
+  std::size_t m_taken = 0;
+  lmx::c_read_file m_file;
+  int m_descriptor = -1;
+};
+
+TEST(AFileThatCannotBeReadToItsEnd, LooksAsIfItEndedThere) {
+  const TempDir directory;
+  std::string document = "<TSK A='TSK1' G='1'>\n";
+  while (document.size() < 100000) document += "<TZN A='1'/>\n";
+  document += "</TSK>";
+  const std::string path = std::filesystem::canonical(directory.write("document.xml", document));
+  for (const std::size_t good : {0u, 1u, 20000u, 70000u}) {
+    SCOPED_TRACE(good);
+    std::string delivered;
+    FailingFile bytes(path, good);
+    ASSERT_TRUE(bytes.has_descriptor());
+    for (int byte = bytes.get(); byte != -1; byte = bytes.get()) delivered += static_cast<char>(byte);
+    EXPECT_GE(delivered.size(), good);
+    EXPECT_LT(delivered.size(), document.size());
+    EXPECT_EQ(document.substr(0, delivered.size()), delivered);
+
+    FailingFile source(path, good);
+    const Outcome outcome = read(source);
+    EXPECT_TRUE(read(delivered) == outcome) << outcome.code;
+    EXPECT_NE(0, outcome.code);
+    EXPECT_TRUE(good != 0 || outcome.code == 34) << outcome.code;
+  }
+  lmx::c_read_file whole(path.c_str());
+  EXPECT_EQ(0, read(whole).code);
 }
 
 struct Oddity {

@@ -124,6 +124,40 @@ TEST(NonMixed, HoldsAValueThatStartsAtItsDefault) {
   EXPECT_EQ(1.5, holder.value());
 }
 
+// Memory as the last owner left it. Not inlined: what a constructor does not write must stay.
+[[gnu::noinline]] void soil(unsigned char* memory, std::size_t size) {
+  for (std::size_t i = 0; i != size; ++i) const_cast<unsigned char volatile*>(memory)[i] = 0xA5;
+}
+
+template <class Field, class Check>
+void in_soiled_memory(Check check) {
+  alignas(Field) unsigned char memory[sizeof(Field)];
+  soil(memory, sizeof memory);
+  auto* const field = new (memory) Field;
+  check(*field);
+  field->~Field();
+}
+
+template <class T>
+void expect_zero() {
+  const auto check = [](auto const& field) {
+    EXPECT_FALSE(field.is_set());
+    EXPECT_EQ(T(), field.get());
+  };
+  in_soiled_memory<lmx::ct_simple_pod_single<T>>(check);
+  in_soiled_memory<lmx::ct_simple_pod_optional<T>>(check);
+}
+
+TEST(Fields, StartAtZeroWhateverTheirMemoryHeld) {
+  expect_zero<bool>();
+  expect_zero<unsigned char>();
+  expect_zero<unsigned short>();
+  expect_zero<unsigned int>();
+  expect_zero<int>();
+  expect_zero<double>();
+  expect_zero<string>();
+}
+
 TEST(RepeatedField, IsSetWhileItHoldsAnything) {
   lmx::ct_simple_pod_multi<string> field;
   EXPECT_FALSE(field.is_set());

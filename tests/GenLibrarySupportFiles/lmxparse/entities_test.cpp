@@ -133,13 +133,24 @@ TEST(Entities, GetTheirCodes) {
 }
 
 TEST(Entities, ThatNameThemselvesCountOneFatalError) {
-  TempDir directory;
-  lmx::xmlReader reader(
-      directory.write("document.xml", with_subset("<!ENTITY a \"&a;\">", task("&a;"))).c_str());
-  Root root;
-  EXPECT_EQ(28, root.unmarshal(reader));
-  EXPECT_EQ(1u, reader.error_log().fatal_count());
-  EXPECT_EQ(9, reader.error_log().last_code());
+  const std::string self = "<!ENTITY a \"&a;\">";
+  const CodeCase rows[] = {
+      {"in an attribute", with_subset(self, task("&a;")), 28},
+      {"between tags", with_subset(self, task("", "&a;")), 9},
+      {"between tags, its text first", with_subset("<!ENTITY a \"x&a;\">", task("", "&a;")), 10},
+      {"in text", with_subset(self, task("", "<P917_comment>&a;</P917_comment>")), 29},
+      {"in text, its own first",
+       with_subset("<!ENTITY a \"x&a;\">", task("", "<P917_comment>&a;</P917_comment>")), 29},
+  };
+  for (CodeCase const& row : rows) {
+    SCOPED_TRACE(row.caption);
+    TempDir directory;
+    lmx::xmlReader reader(directory.write("document.xml", row.document).c_str());
+    Root root;
+    EXPECT_EQ(row.code, root.unmarshal(reader));
+    EXPECT_EQ(1u, reader.error_log().fatal_count());
+    EXPECT_EQ(9, reader.error_log().last_code());
+  }
 }
 
 TEST(Entities, LinesCountRealInputAlone) {
