@@ -399,7 +399,8 @@ bool c_get_with_entities::p_refuse_entity(std::string const& message) {
 }
 
 // Entities can make much out of little. What they may cost grows with the document; a small one has a free
-// start.
+// start. References to characters cost too, since an entity may hold any number of them; what stands in the
+// document itself is always paid for by its own bytes. A refusal is fatal, so in input it shows as the end.
 bool c_get_with_entities::p_charge(unsigned long long cost) {
   m_expanded += cost;
   if (m_expanded <= limits::free_expansion || m_expanded / limits::expansion_factor <= bytes_read())
@@ -499,6 +500,7 @@ bool c_get_with_entities::select_general_entity(c_entity_name_reader& reader, st
       {"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"apos", '\''}, {"quot", '"'}};
   for (const predefined& row : table) {
     if (name == row.name) {
+      if (!p_charge(limits::reference_cost)) return reader.m_push_as_input;
       out->push_back(row.character);  // past the white space handling: a pending blank stays pending
       return true;
     }
@@ -532,6 +534,7 @@ bool c_get_with_entities::insert_character_entity(c_entity_name_reader& reader, 
   }
   if (c != ';') reader.unget(c);
   if (!has_digits || value > limits::highest_char_ref) return false;
+  if (!p_charge(limits::reference_cost)) return reader.m_push_as_input;
   if (value == next_line || value == line_separator) {
     add_char_wsp(out, '\n', true);
   } else if (value <= 0x7F) {

@@ -16,7 +16,7 @@ inline constexpr std::size_t active_entities = 1024;
 /// bytes that a larger document may. Beyond both: fatal 9.
 inline constexpr unsigned long long free_expansion = 8ull * 1024 * 1024;
 inline constexpr unsigned long long expansion_factor = 100;
-/// What one reference to a declared entity costs, however short its text.
+/// What one reference costs, however short its text.
 inline constexpr unsigned long long reference_cost = 20;
 
 /// The highest code point that a character reference may name (else the reference fails).

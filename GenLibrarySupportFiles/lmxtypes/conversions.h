@@ -14,6 +14,9 @@ namespace lmx {
 
 class c_binary;
 
+/// A value of string type: UTF-8 bytes.
+using tlmx_unicode_string = std::string;
+
 /// The integer that C text starts with: white space, an optional sign, then digits of `base` (10 or 16,
 /// without a "0x") up to the first other byte. No digits give 0. A number that 32 bits cannot hold gives
 /// the nearest one they can, whatever the width of `long`.

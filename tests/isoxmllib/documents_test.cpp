@@ -233,6 +233,10 @@ INSTANTIATE_TEST_SUITE_P(
         CodeCase{"text cut off", "<TSK A=\"TSK1\" G=\"1\"><P917_comment>hi", 29},
         CodeCase{"questions may be empty", "<P917_Questions/>", 0},
         CodeCase{"comment may be empty", "<P917_comment/>", 0},
+        CodeCase{"blank by reference behind a value whose blanks are collapsed",
+                 "<TSK A=\"TSK1\" G=\"1\"><TZN B=\"Zone\" A=\"1\"/>&#32;<TZN A=\"2\"/></TSK>", 0},
+        CodeCase{"blank by reference behind a value whose blanks are kept",
+                 "<TSK A=\"TSK1\" G=\"1\"><TZN A=\"1\" B=\"Zone\"/>&#32;<TZN A=\"2\"/></TSK>", 10},
         CodeCase{"attributes only: blanks, comments, instructions",
                  "<AFE A=\"ABCDEFGH.XML\" B=\"1\" C=\"\" D=\"1\"> <!-- a --> <?b c?> </AFE>", 0},
         CodeCase{"attributes only: unknown child",
@@ -290,6 +294,11 @@ INSTANTIATE_TEST_SUITE_P(
         CodeCase{
             "reply type with a capital",
             "<P917_Question P917_Uuid=\"92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"String\">"
+            "<P917_Prompt/></P917_Question>",
+            22},
+        CodeCase{
+            "padded reply type keeps its blanks",
+            "<P917_Question P917_Uuid=\"92043685-072d-4caa-b3a8-c1e9d23bdb31\" P917_ReplyType=\"string \">"
             "<P917_Prompt/></P917_Question>",
             22},
         CodeCase{
@@ -510,6 +519,62 @@ TEST(Questions, HoldPromptReplyAndOptions) {
   ASSERT_EQ(2u, read.SizeOption());
   EXPECT_EQ("c", read.GetOption(0));
   EXPECT_EQ("", read.GetOption(1));
+}
+
+std::vector<std::string> options(P917Question const& question) {
+  std::vector<std::string> found;
+  for (std::size_t i = 0; i != question.SizeOption(); ++i) found.push_back(question.GetOption(i));
+  return found;
+}
+
+TEST(Questions, HaveOptionsThatAreEditedLikeAVector) {
+  using Options = std::vector<std::string>;
+  P917Question edited;
+  EXPECT_EQ(0u, edited.SizeOption());
+  edited.AppendOption("b");
+  edited.AppendOption("d");
+  edited.InsertOption(0, "a");
+  edited.InsertOption(2, "c");
+  EXPECT_EQ((Options{"a", "b", "c", "d"}), options(edited));
+  edited.SetOption(1, "B");
+  EXPECT_EQ("d", edited.BackOption());
+  edited.DeleteOption(0);
+  EXPECT_EQ((Options{"B", "c", "d"}), options(edited));
+  edited.ClearOption();
+  EXPECT_EQ(Options{}, options(edited));
+}
+
+std::vector<std::string> prompts(P917Questions const& questions) {
+  std::vector<std::string> found;
+  for (std::size_t i = 0; i != questions.SizeP917Question(); ++i)
+    found.push_back(questions.GetP917Question(i).GetPrompt());
+  return found;
+}
+
+TEST(Questions, AreEditedLikeAVector) {
+  using Prompts = std::vector<std::string>;
+  const auto new_question = [](char const* prompt) {
+    auto* question = new P917Question;
+    question->SetPrompt(prompt);
+    return question;
+  };
+  P917Questions edited;
+  edited.AppendP917Question().SetPrompt("b");
+  edited.AppendP917Question(new_question("d"));
+  edited.InsertP917Question(0).SetPrompt("a");
+  edited.InsertP917Question(2, new_question("c"));
+  EXPECT_EQ((Prompts{"a", "b", "c", "d"}), prompts(edited));
+  P917Question other;
+  other.SetPrompt("B");
+  edited.AssignP917Question(1, other);
+  edited.AssignP917Question(2, new_question("C"));
+  edited.BackP917Question().SetPrompt("D");
+  EXPECT_EQ((Prompts{"a", "B", "C", "D"}), prompts(edited));
+  edited.DeleteP917Question(1);
+  edited.GetP917Question(4).SetPrompt("e");
+  EXPECT_EQ((Prompts{"a", "C", "D", "", "e"}), prompts(edited));
+  edited.ClearP917Question();
+  EXPECT_EQ(Prompts{}, prompts(edited));
 }
 
 TEST(Questions, MissAPrompt) {

@@ -2,7 +2,6 @@
 // What was read of them can be copied, checked, written and destroyed on the same stack.
 
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include <cstddef>
 #include <sstream>
@@ -11,6 +10,8 @@
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
 #include "support/document.h"
+#include "support/memory_read.h"
+#include "support/on_stack_of.h"
 
 namespace {
 
@@ -23,22 +24,6 @@ std::string nested(std::string const& start, std::string const& end, int depth) 
 }
 
 std::string nested_variables(int depth) { return nested("<PDV A=\"0001\" B=\"1\">", "</PDV>", depth); }
-
-// Runs `body` on a thread whose stack has `size` bytes.
-template <class Body>
-void on_stack_of(std::size_t size, Body body) {
-  pthread_attr_t attributes;
-  ASSERT_EQ(0, pthread_attr_init(&attributes));
-  ASSERT_EQ(0, pthread_attr_setstacksize(&attributes, size));
-  pthread_t thread;
-  const auto run = [](void* p) -> void* {
-    (*static_cast<Body*>(p))();
-    return nullptr;
-  };
-  ASSERT_EQ(0, pthread_create(&thread, &attributes, run, &body));
-  pthread_join(thread, nullptr);
-  pthread_attr_destroy(&attributes);
-}
 
 constexpr std::size_t kib = 1024;
 constexpr std::size_t usual_stack = 8192 * kib;
@@ -79,6 +64,43 @@ TEST(Nesting, ATolerantReaderSkipsWhatIsTooDeep) {
     const std::vector<Report> reports = tolerated(root, nested_variables(1000000));
     EXPECT_EQ((std::vector<Report>{{5, "PDV"}}), reports);
   });
+}
+
+TEST(Nesting, WhatIsTooDeepIsSkippedAloneAndReadingGoesOnBehindIt) {
+  on_stack_of(usual_stack, [] {
+    Root root;
+    const std::vector<Report> reports =
+        tolerated(root, "<TSK A=\"TSK1\" G=\"1\"><TZN A=\"1\">" + nested_variables(200000) +
+                            "<PDV A=\"0002\" B=\"7\"/></TZN><TZN A=\"2\"/></TSK>");
+    EXPECT_EQ((std::vector<Report>{{5, "PDV"}}), reports);
+    InnerTask const& zones = root.GetTask().GetInnerTask(0);
+    ASSERT_EQ(2u, zones.SizeTreatmentZone());
+    InnerTreatmentZone const& variables = zones.GetTreatmentZone(0).GetInnerTreatmentZone(0);
+    ASSERT_EQ(2u, variables.SizeProcessDataVariable());
+    EXPECT_EQ(7, variables.GetProcessDataVariable(1).GetValue());
+  });
+}
+
+// Reads when `used` bytes of the stack are taken already.
+__attribute__((noinline)) int read_below(std::size_t used, lmx::xmlReader& reader) {
+  auto* const taken = static_cast<char volatile*>(__builtin_alloca(used + 1));
+  taken[0] = 0;
+  Root root;
+  return root.unmarshal(reader) + taken[0];
+}
+
+TEST(Nesting, IsRefusedHoweverLittleIsLeftOfTheStack) {
+  const std::string document = nested_variables(100000);
+  for (const std::size_t used : {0 * kib, 256 * kib, 768 * kib, 832 * kib}) {
+    SCOPED_TRACE(used);
+    int code = 0;
+    on_stack_of(1024 * kib, [&] {
+      MemoryRead read(document);
+      lmx::xmlReader reader(read);
+      code = read_below(used, reader);
+    });
+    EXPECT_EQ(5, code);
+  }
 }
 
 TEST(Nesting, SkippedElementsNeedNoStack) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse.h"
+#include "GenLibrarySupportFiles/lmxtypes.h"
 #include "isoxmllib/isoxmllib.h"
 #include "support/each_source.h"
 #include "support/recording_reader.h"
@@ -41,6 +42,7 @@ static_assert(is_a_value<::Root> && is_a_value<::TaskData> && is_a_value<::Inner
               is_a_value<::AttachedFile> && is_a_value<::TaskControllerCapabilities> &&
               is_a_value<::P917Metadata> && is_a_value<::LinkList> && is_a_value<::LinkGroup> &&
               is_a_value<::Link>);
+static_assert(std::is_same_v<std::string, lmx::tlmx_unicode_string>);
 static_assert(std::is_same_v<std::string const&, decltype(std::declval<Link const&>().GetValue())>);
 static_assert(std::is_same_v<lmx::elmx_error, decltype(std::declval<Link&>().SetValue(""))>);
 static_assert(std::is_same_v<bool, decltype(std::declval<LinkGroup&>().SetenumType(::elmx_enum_1))>);
@@ -632,6 +634,30 @@ TEST(AccessorDeathTest, ConstGetStopsWithItsConditionsText) {
   EXPECT_DEATH(data.GetP917Metadata(), "chosen == P917MetadataChosen");
   EXPECT_DEATH(data.GetTaskControllerCapabilities(), "chosen == TaskControllerCapabilitiesChosen");
   EXPECT_DEATH(data.GetAttachedFile(0), "chosen == AttachedFileChosen");
+}
+
+TEST(AccessorDeathTest, OfEachClassNamesItsOwnMember) {
+  const Task task;
+  const InnerTaskData data;
+  InnerExternalFileContent content;
+  content.SelectTask();
+  EXPECT_DEATH(task.GetInnerTask(0), "index < mInnerTask\\.size\\(\\)");
+  EXPECT_DEATH(data.GetTask(0), "chosen == TaskChosen");
+  EXPECT_DEATH(std::as_const(content).GetTask(0), "index < u\\.mTask->size\\(\\)");
+}
+
+TEST(AccessorDeathTest, ARunOfTwoHasNoThird) {
+  InnerTime times;
+  InnerAllocationStamp stamp;
+  times.GetPosition(1);
+  stamp.GetPosition(1);
+  InnerTime one;
+  one.AppendPosition();
+  EXPECT_DEATH(times.GetPosition(2), "index < 2");
+  EXPECT_DEATH(std::as_const(times).GetPosition(2), "index < 2");
+  EXPECT_DEATH(stamp.GetPosition(2), "index < 2");
+  EXPECT_DEATH(std::as_const(stamp).GetPosition(2), "index < 2");
+  EXPECT_DEATH(std::as_const(one).GetPosition(1), "index < u\\.mPosition->size\\(\\)");
 }
 
 TEST(NamespaceMaps, BindNothing) {

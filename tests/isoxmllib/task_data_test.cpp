@@ -5,6 +5,7 @@
 // tolerates everything sees all of them, in order, and keeps the value.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <map>
@@ -835,6 +836,39 @@ TEST(NameTables, OfAnExternalFileHaveNoneOfTheFrame) {
   EXPECT_EQ(children, events(InnerExternalFileContent::elem_event_map));
   EXPECT_EQ(children, events(ExternalFileContent::elem_event_map));
   EXPECT_EQ(names(children), names(ExternalFileContent::known_elements));
+}
+
+// A polygon has one number as a part of a field or a zone, another as the boundary of guidance.
+TEST(NameTables, GivePolygonsTheNumberOfWhatTheyStandIn) {
+  struct Row {
+    char const* caption;
+    lmx::s_event_map const *of_class, *of_wrapper;
+    int event;
+  };
+  for (Row const& row :
+       {Row{"PFD", Field::elem_event_map, InnerField::elem_event_map, 134},
+        Row{"TZN", TreatmentZone::elem_event_map, InnerTreatmentZone::elem_event_map, 134},
+        Row{"GGP", GuidanceGroup::elem_event_map, InnerGuidanceGroup::elem_event_map, 159},
+        Row{"GPN", GuidancePattern::elem_event_map, InnerGuidancePattern::elem_event_map, 159}}) {
+    const Events of_class = events(row.of_class);
+    EXPECT_EQ(1, std::count(of_class.begin(), of_class.end(), std::make_pair(std::string("PLN"), row.event)))
+        << row.caption;
+    EXPECT_EQ(of_class, events(row.of_wrapper)) << row.caption;
+  }
+}
+
+TEST(NameTables, GiveACommentOneNumberAsAnAttributeAndAnotherAsAnElement) {
+  const std::pair<std::string, int> attribute("P917_comment", 82), element("P917_comment", 263);
+  for (lmx::s_event_map const* table :
+       {Grower::attr_event_map, Farm::attr_event_map, Field::attr_event_map}) {
+    const Events found = events(table);
+    EXPECT_EQ(1, std::count(found.begin(), found.end(), attribute));
+  }
+  for (lmx::s_event_map const* table :
+       {Task::elem_event_map, InnerTask::elem_event_map, Root::elem_event_map}) {
+    const Events found = events(table);
+    EXPECT_EQ(1, std::count(found.begin(), found.end(), element));
+  }
 }
 
 TEST(NameTables, OfRootNameEveryElement) {

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "isoxmllib/isoxmllib.h"
@@ -20,6 +21,15 @@
 namespace {
 
 static_assert(!std::is_copy_constructible_v<IsoXmlParser> && !std::is_copy_assignable_v<IsoXmlParser>);
+
+// What a host may call and read.
+static_assert(std::is_same_v<void (IsoXmlParser::*)(), decltype(&IsoXmlParser::createReaders)>);
+static_assert(std::is_same_v<void (IsoXmlParser::*)(lmx::xmlReader&), decltype(&IsoXmlParser::processLinks)>);
+static_assert(std::is_const_v<
+              std::remove_reference_t<decltype(std::declval<IsoXmlParser const&>().getErrors().front())>>);
+static_assert(!std::is_same_v<::Point, lmx::Point> && !std::is_same_v<::Polygon, lmx::Polygon> &&
+              !std::is_same_v<::TreatmentZone, lmx::TreatmentZone> &&
+              !std::is_same_v<::ProcessDataVariable, lmx::ProcessDataVariable>);
 
 using Role = IsoDocument::Role;
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -55,6 +56,12 @@ using string_bridge = lmx::c_unmarshal_bridge<Reader, Container, string>;
 using single = lmx::ct_simple_pod_single<string>;
 using optional = lmx::ct_simple_pod_optional<string>;
 using multi = lmx::ct_simple_pod_multi<string>;
+
+// Short and full spellings name the same bridge.
+static_assert(std::is_same_v<string_bridge<single>, lmx::c_unmarshal_bridge<Reader, single, string, string>>);
+static_assert(std::is_same_v<lmx::c_atomic_unmarshal_bridge<Reader, string>,
+                             lmx::c_atomic_unmarshal_bridge<Reader, string, string>>);
+static_assert(std::is_base_of_v<lmx::c_atomic_unmarshal_bridge<Reader, string>, string_bridge<optional>>);
 
 constexpr lmx::c_validation_spec<string> good(lmx::EXWS_COLLAPSE, "default", accept_text, accept_value,
                                               convert);

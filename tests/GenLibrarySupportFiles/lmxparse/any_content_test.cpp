@@ -7,6 +7,7 @@
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "support/memory_read.h"
+#include "support/on_stack_of.h"
 
 namespace {
 
@@ -196,14 +197,39 @@ TEST(MustUnderstand, LooksThroughTheWholeDocumentAndGoesBack) {
                       {"text", 1},
                       {"", 1},
                       {"<a>", 1},
-                      {"<a xmlns:p='u' p:x='1'/>", 0}};
+                      {"<a xmlns:p='u' p:x='1'/>", 0},
+                      {"<!DOCTYPE a [<!ENTITY e '<a x=\"1\"/>text'>]>&e;", 2},
+                      {"<!DOCTYPE a [<!ENTITY e '<a><b/>'>]>&e;</a>", 0},
+                      {"<!DOCTYPE a [<!ENTITY e '<a'>]>&e; x='1'/>", 2}};
   for (Row const& row : rows) {
     MemoryRead read(row.document);
     lmx::c_xml_reader reader(read);
-    EXPECT_EQ(row.verdict, lmx::has_must_understand(reader, "", "x", &only_yes)) << row.document;
-    EXPECT_EQ(1, reader.line());
-    EXPECT_EQ(lmx::EXCE_UNKNOWN, reader.getter().encoding()) << "back at the start";
+    for (int pass = 0; pass != 3; ++pass) {
+      EXPECT_EQ(row.verdict, lmx::has_must_understand(reader, "", "x", &only_yes)) << row.document;
+      EXPECT_EQ(1, reader.line());
+      EXPECT_EQ(lmx::EXCE_UNKNOWN, reader.getter().encoding()) << "back at the start";
+    }
   }
+}
+
+// On a stack of 256 KiB, which fewer levels than these would use up.
+TEST(MustUnderstand, IsNotFoundBehindMoreLevelsThanTheStackHolds) {
+  std::string deep;
+  for (int i = 0; i != 300000; ++i) deep += "<a>";
+  deep += "<a x='1'/>";
+  for (int i = 0; i != 300000; ++i) deep += "</a>";
+  int verdict = -1, shallow = -1;
+  const auto run = [&] {
+    MemoryRead read(deep);
+    lmx::c_xml_reader reader(read);
+    verdict = lmx::has_must_understand(reader, "", "x", &only_yes);
+    MemoryRead other("<a><a><a><a x='1'/></a></a></a>");
+    lmx::c_xml_reader other_reader(other);
+    shallow = lmx::has_must_understand(other_reader, "", "x", &only_yes);
+  };
+  on_stack_of(256 * 1024, run);
+  EXPECT_EQ(1, verdict);
+  EXPECT_EQ(2, shallow);
 }
 
 TEST(InstanceNamespace, IsThatOfTheTopElement) {
@@ -216,14 +242,18 @@ TEST(InstanceNamespace, IsThatOfTheTopElement) {
                       {"<p:a xmlns:p='v'/>", true, "v"},
                       {"<a/>", true, ""},
                       {"<p:a/>", false, " "},
-                      {"", false, ""}};
+                      {"", false, ""},
+                      {"<!DOCTYPE a [<!ENTITY e '<a xmlns=\"u\"/>text'>]>&e;", true, "u"},
+                      {"<!DOCTYPE a [<!ENTITY v 'u'><!ENTITY e '<a xmlns=\"&v;\">'>]>&e;</a>", true, "u"}};
   for (Row const& row : rows) {
     MemoryRead read(row.document);
     lmx::c_xml_reader reader(read);
-    std::string uri;
-    EXPECT_EQ(row.found, lmx::get_instance_namespace(reader, &uri)) << row.document;
-    EXPECT_EQ(row.uri, uri);
-    EXPECT_EQ(lmx::EXCE_UNKNOWN, reader.getter().encoding());
+    for (int pass = 0; pass != 3; ++pass) {
+      std::string uri;
+      EXPECT_EQ(row.found, lmx::get_instance_namespace(reader, &uri)) << row.document;
+      EXPECT_EQ(row.uri, uri);
+      EXPECT_EQ(lmx::EXCE_UNKNOWN, reader.getter().encoding());
+    }
   }
 }
 

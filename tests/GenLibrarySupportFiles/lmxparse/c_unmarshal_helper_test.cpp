@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <ostream>
@@ -1097,6 +1098,35 @@ TEST(FileReaderErrorLog, KnowsTheTrueLineOfATagLevelError) {
   EXPECT_EQ(lmx::EET_FATAL, type);
   EXPECT_EQ(lmx::ELMX_NOT_WELL_FORMED, code);
   EXPECT_EQ(3, line);
+}
+
+TEST(FileReaderErrorLog, KeepsItsTextsToItself) {
+  struct Row {
+    const char* caption;
+    string document;
+    elmx_error code;
+    string of_the_log;  // a part of its text
+  };
+  for (auto const& row : {Row{"fatal", "<AFE A=1/>", lmx::ELMX_NOT_WELL_FORMED, "expected"},
+                          Row{"error", "<AFE ;/>", lmx::ELMX_NOT_WELL_FORMED, "XML"},
+                          Row{"recursion, by its value", "<!DOCTYPE a [<!ENTITY e '&e;'>]><AFE A='&e;'/>",
+                              lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, "Recursive"},
+                          Row{"unknown encoding", "<?xml version='1.0' encoding='KOI8-R'?><AFE/>",
+                              lmx::ELMX_BAD_CHAR_ENCODING, "specified"},
+                          Row{"warning", "<!-- x ---><!x>", lmx::ELMX_BAD_COMMENT, "End of"}}) {
+    SCOPED_TRACE(row.caption);
+    const TempDir directory;
+    FileReader reader(directory.write("bad.xml", row.document).c_str());
+    Root root;
+    EXPECT_EQ(row.code, root.unmarshal(reader));
+    EXPECT_NE(lmx::ELMX_OK, reader.error_log().last_code());
+    const string text = reader.get_error_message();
+    const string start = string("Error: ") + lmx::get_error_description(row.code) + "\nItem: ";
+    EXPECT_EQ(start, text.substr(0, start.size()));
+    EXPECT_EQ("XML line: 1\n", text.substr(text.rfind("XML line")));
+    EXPECT_EQ(5, std::count(text.begin(), text.end(), '\n')) << text;
+    EXPECT_EQ(string::npos, text.substr(0, text.rfind("XML line")).find(row.of_the_log)) << text;
+  }
 }
 
 TEST(KnownElementTables, HoldTheClassesOwnChildrenOnly) {

@@ -135,6 +135,22 @@ TEST(NewReader, AsksTheBaseHooksForPlainAnswers) {
   EXPECT_EQ(lmx::ELMX_OK, reader.on_unknown_element("x", path, "file", 1));
 }
 
+TEST(NewReader, TakesReferencedWhiteSpaceForWhiteSpaceUnlessToldOtherwise) {
+  const auto read_with = [](auto... normalise) {
+    MemoryRead memory("<e a='x&#10;y'/>");
+    lmx::c_xml_reader reader(memory, normalise...);
+    elmx_error error;
+    string value;
+    reader.get_element_event(&error, &reader.m_name);
+    reader.get_attribute_event(nullptr, &error, &reader.m_name);
+    EXPECT_TRUE(reader.get_attribute_value(&value, lmx::EXWS_COLLAPSE));
+    return value;
+  };
+  EXPECT_EQ("x y", read_with());
+  EXPECT_EQ("x y", read_with(true));
+  EXPECT_EQ("x\ny", read_with(false));
+}
+
 // --- Names to numbers ------------------------------------------------------------------------------------
 
 struct Lookup {

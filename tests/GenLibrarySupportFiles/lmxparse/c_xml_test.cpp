@@ -7,8 +7,10 @@
 #include <gtest/gtest.h>
 #include <pthread.h>
 
+#include <cstddef>
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -470,6 +472,9 @@ TEST(AttributeValues, CanBeAskedForWhereThereIsNone) {
       EXPECT_EQ("", value);
     });
 }
+
+static_assert(std::is_same_v<std::size_t, decltype(lmx::c_attribute_data::m_index)>,
+              "a value may be as long as memory holds");
 
 TEST(CapturedAttributes, NeverPassTheirLastByte) {
   struct Row {

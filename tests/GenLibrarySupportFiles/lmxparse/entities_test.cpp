@@ -33,6 +33,34 @@ std::string attribute_value(std::string const& document, lmx::elmx_whitespace mo
   return xml.get_attribute_value(&value, mode) ? value : "(failed)";
 }
 
+// Keeps each report as "code message".
+class Log : public lmx::c_error {
+ public:
+  std::string text;
+
+ private:
+  void report(lmx::elmx_error_type type, lmx::elmx_error code, char const*, int,
+              char const* message) override {
+    text += (type == lmx::EET_FATAL ? "fatal " : "") + std::to_string(code) + ' ' + message + '\n';
+  }
+};
+
+// What the error log is told while `document` is read to its end, each attribute's value with it.
+std::string log_of(std::string const& document) {
+  MemoryRead read(document);
+  Log error;
+  lmx::c_xml xml(read, error, true);
+  lmx::c_xml_local scope;
+  std::string name, value;
+  for (;;) {
+    const lmx::elxp_xml_event event = xml.get_element_name(&scope, &name);
+    if (event == lmx::EXE_EOM || event == lmx::EXE_ERROR) return error.text;
+    if (event != lmx::EXE_TOKEN) continue;
+    while (xml.get_attribute_name(&name, false) == lmx::EXE_TOKEN)
+      xml.get_attribute_value(&value, lmx::EXWS_PRESERVE);
+  }
+}
+
 struct ValueCase {
   char const* caption;
   char const* subset;
@@ -116,6 +144,7 @@ TEST(Entities, GetTheirCodes) {
       {"naming each other, in an attribute", with_subset(pair, task("&a;")), 28},
       {"naming each other, between tags", with_subset(pair, task("", "&b;")), 9},
       {"naming itself, in a namespace", with_subset(self, "<TSK xmlns:p=\"&a;\" A=\"TSK1\" G=\"1\"/>"), 9},
+      {"an undeclared name in a namespace", "<TSK xmlns:p=\"a&b;c\" A=\"TSK1\" G=\"1\"/>", 0},
       {"naming itself without a semicolon", with_subset("<!ENTITY a '&a'>", task("", "&a; ")), 9},
       {"a parameter entity naming itself", with_subset("<!ENTITY % a \"&#37;a;\"> %a;", task("")), 9},
       {"the same without a semicolon", with_subset("<!ENTITY % a \"&#37;a\"> %a;", task("")), 9},
@@ -163,6 +192,40 @@ TEST(Entities, LinesCountRealInputAlone) {
       << "the two line ends of the declaration count, not those of the text";
 }
 
+TEST(Entities, ThatNameThemselvesAreReportedInOneWayWhereverTheyStand) {
+  struct Row {
+    char const *caption, *subset, *document, *value;
+  };
+  constexpr char const* self = "<!ENTITY a '&a;'>";
+  constexpr char const* pair = "<!ENTITY a '&b;'><!ENTITY b '&a;'>";
+  constexpr char const* deeper = "<!ENTITY a 'x&b;'><!ENTITY b 'y&c;'><!ENTITY c 'z&b;'>";
+  for (Row const& row :
+       {Row{"in an attribute", self, "<x a='&a;'/>", "&a;"}, Row{"between tags", self, "<x>&a;</x>", "&a;"},
+        Row{"in text", self, "<x>t&a;</x>", "&a;"}, Row{"in a namespace", self, "<x xmlns:p='&a;'/>", "&a;"},
+        Row{"two in an attribute", pair, "<x a='&a;'/>", "&b;"},
+        Row{"two between tags", pair, "<x>&a;</x>", "&b;"},
+        Row{"two in a namespace", pair, "<x xmlns='&a;'/>", "&b;"},
+        Row{"not the first in an attribute", deeper, "<x a='&a;'/>", "y&c;"},
+        Row{"not the first in text", deeper, "<x>&a;</x>", "y&c;"},
+        Row{"in the subset", "<!ENTITY % a '&#37;a;'> %a;", "<x/>", "%a;"}}) {
+    EXPECT_EQ("fatal 9 Recursive entity definition for: " + std::string(row.value) + "\n",
+              log_of(with_subset(row.subset, row.document)))
+        << row.caption;
+  }
+}
+
+// The text that is being read goes on to its end; the new one is what the next reference gets.
+TEST(Entities, ThatAreRedeclaredWhileTheyAreReadChangeFromTheNextReferenceOn) {
+  const std::string first =
+      "<!ENTITY % a \"&#60;!ENTITY &#37; a '&#38;#60;!ENTITY g &#34;new&#34;&#38;#62;'&#62;"
+      "&#60;!ENTITY g 'old'&#62;&#60;!ENTITY h 'rest'&#62; \"> %a;";
+  const auto value = [&](std::string const& subset) {
+    return attribute_value(with_subset(subset, "<x a='&g; &h;'/>"), lmx::EXWS_PRESERVE);
+  };
+  EXPECT_EQ("old rest", value(first));
+  EXPECT_EQ("new rest", value(first + " %a;"));
+}
+
 // ---- Limits ----
 
 std::string chain(std::size_t length) {
@@ -172,6 +235,14 @@ std::string chain(std::size_t length) {
               (i + 1 == length ? "x" : "&e" + std::to_string(i + 1) + ";") + "'>";
   }
   return subset;
+}
+
+TEST(EntityLimits, AreThese) {
+  EXPECT_EQ(64u, lmx::limits::nested_entities_in_values);
+  EXPECT_EQ(1024u, lmx::limits::active_entities);
+  EXPECT_EQ(8u << 20, lmx::limits::free_expansion);
+  EXPECT_EQ(100u, lmx::limits::expansion_factor);
+  EXPECT_EQ(20u, lmx::limits::reference_cost);
 }
 
 TEST(EntityLimits, OfNestingInValues) {
@@ -206,6 +277,45 @@ TEST(EntityLimits, OfExpansion) {
   EXPECT_EQ(0, read_document(expansion(size, count - 1)).code);
   EXPECT_EQ(0, read_document(expansion(size, count)).code);
   EXPECT_EQ(29, read_document(expansion(size, count + 1)).code);
+}
+
+TEST(EntityLimits, OfExpansionInValues) {
+  struct Row {
+    char const* caption;
+    std::string value;
+    std::size_t declared;  // what its declaration costs
+    std::size_t cost;      // what each reference to it costs
+    std::size_t length;    // of what it becomes
+  };
+  const std::size_t reference = lmx::limits::reference_cost;
+  std::string characters, numbers, nothing;
+  for (int i = 0; i != 100; ++i) {  // the character behind a nested reference is dropped
+    characters += "&lt;-";
+    numbers += "&#38;#233;-";
+    nothing += "&n;-";
+  }
+  for (Row const& row : {Row{"text", std::string(1000, 'x'), 0, reference + 1000, 1000},
+                         Row{"references to characters", characters, 0, 101 * reference, 100},
+                         Row{"references by number", numbers, 100 * reference, 101 * reference, 200},
+                         Row{"references to nothing", nothing, 0, 101 * reference, 0}}) {
+    const auto count = static_cast<std::size_t>((lmx::limits::free_expansion - row.declared) / row.cost);
+    const auto value = [&](std::size_t references) {
+      std::string raw;
+      for (std::size_t i = 0; i != references; ++i) raw += "&e;";
+      return attribute_value(
+          with_subset("<!ENTITY n ''><!ENTITY e '" + row.value + "'>", "<x a='" + raw + "'/>"),
+          lmx::EXWS_PRESERVE);
+    };
+    EXPECT_EQ(count * row.length, value(count).size()) << row.caption;
+    EXPECT_EQ("(failed)", value(count + 1)) << row.caption;
+  }
+}
+
+TEST(EntityLimits, LetADocumentWithoutEntitiesHaveAnyNumberOfReferences) {
+  std::string references;
+  for (int i = 0; i != 1000000; ++i) references += "&lt;";
+  EXPECT_EQ(1000000u, attribute_value("<x a='" + references + "'/>", lmx::EXWS_PRESERVE).size());
+  EXPECT_EQ(0, read_document("<P917_comment>" + references + "</P917_comment>").code);
 }
 
 TEST(EntityLimits, LetALargeDocumentExpandInProportion) {
@@ -293,6 +403,32 @@ TEST(EntitySources, DeliverBytesAsUnsignedAndTakeThemBack) {
   EXPECT_EQ('z', reader.get());
   EXPECT_EQ(-1, reader.get());
   EXPECT_EQ(-1, reader.get());
+}
+
+TEST(EntitySources, AnEntityReadAsInputDeliversItsBytesAsUnsigned) {
+  std::string all;
+  for (int c = 1; c != 256; ++c) all += static_cast<char>(c);
+  MemoryRead read("<e;r");
+  lmx::c_error error;
+  lmx::c_get_for_xml getter(read, error, true);
+  getter.add_general_entity("e", all);
+  ASSERT_EQ('<', getter.get());
+  lmx::c_entity_name_reader_for_c_get reader(getter);
+  reader.m_push_as_input = true;
+  std::string out;
+  ASSERT_TRUE(getter.select_general_entity(reader, &out));
+  for (int c = 1; c != 256; ++c) {
+    ASSERT_EQ(c, getter.get());
+    getter.unget(c);
+    ASSERT_EQ(c, getter.get()) << "and as they were pushed back";
+  }
+  EXPECT_EQ('r', getter.get());
+}
+
+TEST(EntitySourcesDeathTest, AnEntityAtItsEndHasNoByte) {
+  lmx::c_dtd_active_entity entity("a");
+  EXPECT_EQ('a', entity.get());
+  EXPECT_DEATH(entity.get(), "\\*p_current != '.0'");
 }
 
 TEST(EntitySources, AByteBeyondAsciiAfterANumberIsNoAssertion) {

@@ -790,6 +790,21 @@ TEST(ReferenceReadersDeathTest, StopWhenAnotherByteIsPutBack) {
   EXPECT_DEATH(from_string.unget('b'), "c_in == static_cast<unsigned char>\\( mp_string\\[m_index\\] \\)");
 }
 
+TEST(Entity, ThatAHostReplacesWhileItIsReadIsReadToItsEnd) {
+  with_getter_inside("e;e;", [](lmx::c_get_for_xml& getter, RecordingError&) {
+    getter.add_general_entity("e", "old text");
+    lmx::c_entity_name_reader_for_c_get reader(getter);
+    reader.m_push_as_input = true;
+    std::string out;
+    ASSERT_TRUE(getter.select_general_entity(reader, &out));
+    EXPECT_EQ('o', getter.get());
+    for (int i = 0; i != 100; ++i) getter.add_general_entity("e", "new" + std::to_string(i));
+    for (const char c : std::string("ld text")) EXPECT_EQ(c, getter.get());
+    ASSERT_TRUE(getter.select_general_entity(reader, &out));
+    EXPECT_EQ("new99", rest(getter));
+  });
+}
+
 // --- Scans -----------------------------------------------------------------------------------------------
 
 struct Scan {

@@ -252,6 +252,8 @@ INSTANTIATE_TEST_SUITE_P(
             "a=1 p:b=1000 q:c=1000 "},
         Ids{"references and plain text", "<a xmlns:p='&#117;' xmlns:q='u'><p:b/><q:c/></a>",
             "a=1 p:b=1000 q:c=1000 "},
+        Ids{"up to a reference that means nothing", "<a xmlns:p='x&y;z' xmlns:q='x&amp;y;'><p:b/><q:c/></a>",
+            "a=1 p:b=1000 q:c=1000 "},
         Ids{"either quote, blanks and line ends around", "<p:a\n xmlns:p\n = \n\"it's\" />", "p:a=1000 "},
         Ids{"only looks like a declaration", "<a xmlnsp='u' xmlns-p='v'><p:b/></a>", "a=1 p:b=0 "}));
 

@@ -159,10 +159,14 @@ TEST(GetDecimal, Uses290FractionDigitsInReadingOrder) {
     value = value * 10.0 + (digit - '0');
     scale *= 10.0;
   }
-  char const* p = text.c_str();
-  double read = 77;
-  lmx::get_decimal(p, read);
-  EXPECT_EQ(value / scale, read);
+  for (std::string const more :
+       {"", "9", "99999999999999999999999999999999", "0000000000000000000000000001"}) {
+    std::string const longer = text + more;
+    char const* p = longer.c_str();
+    double read = 77;
+    EXPECT_EQ(static_cast<int>(longer.size()), lmx::get_decimal(p, read)) << "the rest is counted";
+    EXPECT_EQ(value / scale, read) << "and nothing else: " << more;
+  }
 }
 
 TEST(SkipConst, MovesOnlyPastTheWholeLiteral) {

@@ -158,6 +158,24 @@ TEST(Collection, LacksAFailedElementAndHasItsSiblings) {
             names(tolerated.reader.getAttachedFileContainer()));
 }
 
+TEST(Collection, TakesAnElementWithChildrenOnceItHasEnded) {
+  const std::string good = "<TSK A='TSK1' G='1'><TZN A='1'/></TSK>";
+  const std::string bad = "<TSK A='TSK2' G='1'><TZN A='1'/><TZN A='255'/></TSK>";
+  Reading<> reading(document(good + bad));
+  EXPECT_EQ(36, reading.error);
+  ASSERT_EQ(1u, reading.reader.getTaskContainer().size());
+  EXPECT_EQ("TSK1", reading.reader.getTaskContainer()[0]->GetId());
+
+  Reading<> cut(header + good + "<TSK A='TSK2' G='1'><TZN A='1'/>");
+  EXPECT_EQ(34, cut.error);
+  EXPECT_EQ(1u, cut.reader.getTaskContainer().size());
+
+  Reading<> tolerated(document(bad + good), tolerate({36}));
+  EXPECT_EQ(0, tolerated.error);
+  ASSERT_EQ(2u, tolerated.reader.getTaskContainer().size());
+  EXPECT_EQ("TSK2", tolerated.reader.getTaskContainer()[0]->GetId());
+}
+
 TEST(Metadata, IsTheLastThatWasCompleted) {
   Reading<> two(document(metadata("1") + attached("AAAAAAAA.XML") + metadata("2")));
   ASSERT_EQ(0, two.error);
