@@ -79,9 +79,8 @@ lmx::elmx_error read_element(X& element, lmx::xmlReader& reader, std::string con
   element_helper<X> helper(element, reader);
   helper.m_empty_allowed = shape.empty_allowed;
   // The usual attributes first and at once; the helper goes on from the first that is unusual.
-  while (lmx::plain_attribute const* const attribute = reader.next_plain_attribute()) {
-    if (!element.accept_attribute(reader, *attribute)) break;
-  }
+  auto [attribute, end] = reader.plain_attributes();
+  while (attribute != end && element.accept_attribute(reader, *attribute)) ++attribute;
   lmx::elmx_error const error = (helper.*shape.read_content)(code_file, shape.line);
   if (error == lmx::ELMX_OK && collect != nullptr) (reader.*collect)(&element);
   return error;

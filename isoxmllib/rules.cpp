@@ -136,12 +136,14 @@ bool accept_bytes(lmx::c_binary& value, lmx::plain_text_view text, std::size_t m
 
 bool accept_date_time(lmx::c_datetime& value, lmx::plain_text_view text) {
   static constexpr char shape[] = "0000-00-00T00:00:00";  // a "0" for any digit
+  static constexpr char fixed[] = "\0\0\0\0\xFF\0\0\xFF\0\0\xFF\0\0\xFF\0\0\xFF\0";
   constexpr std::size_t shape_size = sizeof shape - 1;
   constexpr std::ptrdiff_t most_decimals = 9;  // then number and scale are exact, whoever divides them
   if (size_of(text) < shape_size) return false;
   char const* p = text.begin;
-  for (std::size_t i = 0; i != shape_size; ++i) {
-    if (shape[i] == '0' ? !lmx::is_digit(p[i]) : p[i] != shape[i]) return false;
+  for (std::size_t const at : {std::size_t{0}, std::size_t{8}, shape_size - 8}) {
+    using lmx::words::load;
+    if (!lmx::words::has_shape(load(p + at), load(shape + at), load(fixed + at))) return false;
   }
   auto const number_at = [&text](std::size_t at) {
     return static_cast<unsigned>(text.begin[at] - '0') * 10 + static_cast<unsigned>(text.begin[at + 1] - '0');

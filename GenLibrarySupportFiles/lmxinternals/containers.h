@@ -234,6 +234,8 @@ class ct_complex_multi {
   }
   T& append() { return append(std::make_unique<T>()); }
   T& append(std::unique_ptr<T> value) {
+    constexpr std::size_t usual_start = 3;  // which fill what is the smallest allocation anyway
+    if (m_values.capacity() == 0) m_values.reserve(usual_start);
     m_values.push_back(std::move(value));
     return *m_values.back();
   }

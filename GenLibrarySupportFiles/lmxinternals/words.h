@@ -47,6 +47,20 @@ inline unsigned before_mark(std::uint64_t marks) {
 #endif
 }
 
+/// The first byte from `p` on that is no blank. It may stop early, where fewer bytes than a word are left.
+inline unsigned char const* skip_blanks(unsigned char const* p, unsigned char const* end) {
+#if defined(__SSE2__)
+  __m128i const sixteen_blanks = _mm_set1_epi8(' ');
+  for (; end - p >= 16; p += 16) {
+    __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p));
+    int const others = _mm_movemask_epi8(_mm_cmpeq_epi8(bytes, sixteen_blanks)) ^ 0xFFFF;
+    if (others != 0) return p + __builtin_ctz(static_cast<unsigned>(others));
+  }
+#endif
+  while (end - p >= 8 && load(p) == blanks) p += 8;
+  return p;
+}
+
 /// The first byte from `p` on that is `quote`, "&" or unprintable. It may stop early, where fewer bytes than
 /// a word are left.
 inline unsigned char const* skip_literal(unsigned char const* p, unsigned char const* end,
@@ -96,6 +110,11 @@ inline bool are_digits(std::uint64_t word) {
   std::uint64_t const upper_halves = word & (ones * 0xF0);
   std::uint64_t const carried = (word + ones * 6) & (ones * 0xF0);
   return upper_halves == ones * 0x30 && carried == ones * 0x30;
+}
+
+/// True when the bytes are those of `shape` where `fixed` is 0xFF, and "0" to "9" where it is 0.
+inline bool has_shape(std::uint64_t word, std::uint64_t shape, std::uint64_t fixed) {
+  return ((word ^ shape) & fixed) == 0 && are_digits((word & ~fixed) | (ones * '0' & fixed));
 }
 
 }  // namespace lmx::words

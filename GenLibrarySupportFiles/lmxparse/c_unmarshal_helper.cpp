@@ -7,7 +7,8 @@ c_unmarshal_helper::c_unmarshal_helper(c_xml_reader& reader)
   std::string const& name = reader.m_name;
   std::vector<char>& stack = reader.m_name_stack;
   reader.m_name_offsets.push_back(m_name_offset);
-  stack.insert(stack.end(), name.c_str(), name.c_str() + name.size() + 1);
+  for (char const c : name) stack.push_back(c);  // few, and a call costs more
+  stack.push_back('\0');
 }
 
 c_unmarshal_helper::~c_unmarshal_helper() {

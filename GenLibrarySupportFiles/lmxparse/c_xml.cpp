@@ -29,14 +29,15 @@ std::size_t distance(unsigned char const* begin, unsigned char const* end) {
 // White space from `p` on; the line feeds in it are added to `*line_feeds`.
 unsigned char const* skip_space(unsigned char const* p, unsigned char const* end, int* line_feeds) {
   for (;;) {
-    while (end - p >= 8 && words::load(p) == words::blanks) p += 8;
     if (p == end) return p;
     if (*p == '\n') {
       ++*line_feeds;
-    } else if (!is_in_class(*p, plain_blank)) {
+      p = words::skip_blanks(p + 1, end);  // the next line's indentation
+    } else if (is_in_class(*p, plain_blank)) {
+      ++p;
+    } else {
       return p;
     }
-    ++p;
   }
 }
 
@@ -429,8 +430,9 @@ bool c_xml::p_capture_attribute_value(c_attribute_data* data, std::size_t* value
 }
 
 elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
-  if (plain_attribute const* const attribute = next_plain_attribute()) {
-    copy_name(name, attribute->name, attribute->name_length);
+  plain_attributes_view const plain = plain_attributes();
+  if (plain.begin != plain.end) {
+    copy_name(name, plain.begin->name, plain.begin->name_length);
     ++m_plain_next;
     m_plain_value_pending = true;
     return EXE_TOKEN;

@@ -67,6 +67,12 @@ struct plain_attribute {
   char const* value() const { return name + name_length + 2; }
 };
 
+/// Some of them, in the order of the document.
+struct plain_attributes_view {
+  plain_attribute const* begin;
+  plain_attribute const* end;
+};
+
 /// Text where it lies in the source's buffer.
 struct plain_text_view {
   char const* begin;
@@ -108,13 +114,13 @@ class ISOXML_API c_xml {
   bool get_attribute_value(std::string* out, elmx_whitespace mode);
   /// Steps over the value of the attribute just named.
   bool skip_attribute_value();
-  /// The next attribute, when it lies in the source's buffer as it is, its value ASCII without references
-  /// and line ends; null when it does not, or none is left. Borrowed until anything else is read.
-  plain_attribute const* next_plain_attribute() const {
-    return m_plain_next != m_plain_count && m_plain_fetches == m_getter.fetches() ? &m_plain[m_plain_next]
-                                                                                  : nullptr;
+  /// The attributes still to be read, when they lie in the source's buffer as they are, their values ASCII
+  /// without references and line ends; else none. Borrowed until anything else is read.
+  plain_attributes_view plain_attributes() const {
+    if (m_plain_fetches != m_getter.fetches()) return {nullptr, nullptr};
+    return {m_plain + m_plain_next, m_plain + m_plain_count};
   }
-  /// Counts that attribute as named and its value as read under `mode`.
+  /// Counts the first of them as named and its value as read under `mode`.
   void take_plain_attribute(elmx_whitespace mode) {
     m_getter.set_ws_mode(mode);
     ++m_plain_next;

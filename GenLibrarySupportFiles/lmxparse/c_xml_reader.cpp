@@ -8,11 +8,6 @@ namespace lmx {
 
 namespace {
 
-// An event that a table may still name: a name that was read, whether looked up before or not.
-bool is_name_event(int event) {
-  return event == EXE_UNKNOWN || event == EXE_TOKEN || event >= EXE_FIRST_USER;
-}
-
 // Most names have three letters.
 bool are_equal(char const* a, char const* b, std::size_t length) {
   return length == 3 ? a[1] == b[1] && a[2] == b[2] && a[0] == b[0] : std::memcmp(a, b, length) == 0;
@@ -100,12 +95,7 @@ elmx_error c_xml_reader::report_attribute_error(elmx_error code) {
 
 // ---- Names ----
 
-void c_xml_reader::tokenise(s_event_map const* map, elxp_attr_elem kind) {
-  if (!is_name_event(m_event)) return;
-  if (kind == EXAE_ELEMENT && map == mp_tokenised_in && map != nullptr) {
-    m_event = m_tokenised_event;
-    return;
-  }
+void c_xml_reader::p_tokenise(s_event_map const* map, elxp_attr_elem kind) {
   // An unprefixed attribute is in no namespace, whatever the default is.
   const bool is_plain_attribute = kind == EXAE_ATTRIBUTE && !m_cracked_name.has_prefix();
   const int ns_id = is_plain_attribute ? static_cast<int>(nsid_none) : m_cracked_name.ns_id();

@@ -91,7 +91,14 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   c_error const& error_log() const { return m_error; }
 
   /// Looks the current name up in `map` and sets `m_event`. An event that is no name is left alone.
-  void tokenise(s_event_map const* map, elxp_attr_elem kind);
+  void tokenise(s_event_map const* map, elxp_attr_elem kind) {
+    if (!p_is_name_event(m_event)) return;
+    if (kind == EXAE_ELEMENT && map == mp_tokenised_in && map != nullptr) {
+      m_event = m_tokenised_event;  // one of a run of siblings, say
+    } else {
+      p_tokenise(map, kind);
+    }
+  }
   /// The same for `name`, as it stands in the current scope. Returns `m_event`.
   int tokenise(s_event_map const* map, std::string const& name, elxp_attr_elem kind);
 
@@ -185,6 +192,11 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   stack_guard m_stack_guard;                            ///< Refuses elements that nest too deep.
 
  private:
+  // An event that a table may still name: a name that was read, whether looked up before or not.
+  static bool p_is_name_event(int event) {
+    return event == EXE_UNKNOWN || event == EXE_TOKEN || event >= EXE_FIRST_USER;
+  }
+  void p_tokenise(s_event_map const* map, elxp_attr_elem kind);
   bool p_is_known_element();
   void p_crack_element_name(std::string const& name) {
     if (!m_cracked_name.set(mp_local, name)) return;

@@ -93,12 +93,6 @@ void c_xml_local::add_namespace(char const* prefix, int id) {
   mp_nearest = this;
 }
 
-// Most names have three letters, and then a call costs more than the comparison.
-static bool are_same(std::string const& a, std::string const& b) {
-  if (a.size() != b.size()) return false;
-  return a.size() == 3 ? a[0] == b[0] && a[1] == b[1] && a[2] == b[2] : a == b;
-}
-
 void c_cracked_name::p_take_name(std::string const& name) {
   m_name = name;
   const std::size_t colon = name.find(':');
@@ -106,12 +100,10 @@ void c_cracked_name::p_take_name(std::string const& name) {
   m_local_offset = m_has_prefix ? colon + 1 : 0;
 }
 
-bool c_cracked_name::set(c_xml_local const* local, std::string const& name) {
-  if (!m_has_prefix && are_same(name, m_name) && m_id == local->default_namespace_id()) return false;
+void c_cracked_name::p_set(c_xml_local const* local, std::string const& name) {
   p_take_name(name);
   m_id = m_has_prefix ? local->find_namespace_id(m_name.substr(0, m_local_offset - 1))
                       : local->default_namespace_id();
-  return true;
 }
 
 void c_cracked_name::set_for_attribute(c_xml_local const* local, std::string const& name) {

@@ -121,11 +121,26 @@ class ISOXML_API c_xml_local {
   int m_default_id = undeclared;  // what `m_ids` has for the empty prefix
 };
 
+namespace detail {
+
+/// `a == b` for names of elements: most have three letters, and then a call costs more than the comparison.
+inline bool are_same_name(std::string const& a, std::string const& b) {
+  if (a.size() != b.size()) return false;
+  return a.size() == 3 ? a[0] == b[0] && a[1] == b[1] && a[2] == b[2] : a == b;
+}
+
+}  // namespace detail
+
 /// A name taken apart at its first colon.
 class ISOXML_API c_cracked_name {
  public:
   /// Cracks an element's name as it stands in the scope `local`. False when nothing has changed by it.
-  bool set(c_xml_local const* local, std::string const& name);
+  bool set(c_xml_local const* local, std::string const& name) {
+    if (!m_has_prefix && detail::are_same_name(name, m_name) && m_id == local->default_namespace_id())
+      return false;
+    p_set(local, name);
+    return true;
+  }
   /// The same for an attribute: without a prefix it is in no namespace.
   void set_for_attribute(c_xml_local const* local, std::string const& name);
 
@@ -139,6 +154,7 @@ class ISOXML_API c_cracked_name {
   std::size_t local_length() const { return m_name.size() - m_local_offset; }
 
  private:
+  void p_set(c_xml_local const* local, std::string const& name);
   void p_take_name(std::string const& name);
 
   std::string m_name;
