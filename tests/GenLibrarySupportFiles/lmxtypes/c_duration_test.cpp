@@ -336,6 +336,11 @@ TEST(Duration, ComparingChangesNeitherSide) {
 
 // --- Writing ---------------------------------------------------------------------------------------------
 
+TEST(Duration, OfMoreSecondsThanDigitsIsWrittenWithAnExponent) {
+  EXPECT_EQ("PT99999999999999S", c_duration("PT99999999999999S").get_as_string());
+  EXPECT_EQ("PT2.0602068864592e+14S", c_duration("PT206020688645919.7S").get_as_string());
+}
+
 struct Written {
   const char* caption;
   c_duration value;
