@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
     std::cout << argv[1] << ':' << fault.line << ": " << fault.code << ": "
               << lmx::get_error_description(fault.code) << " (" << fault.item << ")\n";
   }
-  // Without its end the document can not be read further, whatever the answer was.
+  // Without its end the document cannot be read further, whatever the answer was.
   if (last != lmx::ELMX_OK) std::cout << "gave up\n";
   return reader.faults.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

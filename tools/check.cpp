@@ -2,8 +2,10 @@
 // documents that it names; any other path is a document by itself, whatever element of the format it begins
 // with.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <system_error>
@@ -27,9 +29,10 @@ struct CheckArguments {
 void check_set(std::string const& directory, std::string const& main_name,
                std::vector<IsoDocument>* verdicts) {
   const IsoXmlParser set(directory, main_name);
+  const std::string prefix = directory.back() == '/' ? directory : directory + '/';
   for (IsoDocument document : set.getDocuments()) {
     if (document.item == document.name) document.item.clear();
-    document.name = directory + "/" + document.name;
+    document.name = prefix + document.name;
     document.root = nullptr;
     verdicts->push_back(std::move(document));
   }

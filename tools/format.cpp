@@ -95,7 +95,7 @@ bool read_settled(NotingReader& reader, std::string const& name, Root* root) {
   return true;
 }
 
-// All that is left of it. False when it can not be read.
+// All that is left of it. False when it cannot be read.
 bool read_standard_input(std::string* text) {
   char buffer[16384];
   for (;;) {

@@ -2,26 +2,22 @@
 #include "tools/geojson.h"
 
 #include <map>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <utility>
 #include <vector>
 
 #include "isoxmllib/isoxmllib.h"
 #include "tools/geometry.h"
+#include "tools/listing.h"
 #include "tools/zone_values.h"
 #include "transfer/IsoXmlParser.h"
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 template <class T>
 Json if_set(bool is_set, T const& value) {
   return is_set ? Json(value) : Json();
 }
-
-Json null_if_empty(std::string const& text) { return text.empty() ? Json() : Json(text); }
 
 // ---- Geometries ----
 

@@ -2,6 +2,7 @@
 // it went.
 #include <CLI/CLI.hpp>
 #include <csignal>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
@@ -40,17 +41,34 @@ ExitStatus run(int argc, char** argv) {
   return status;
 }
 
+constexpr char out_of_memory[] = "isoxml: out of memory\n";
+
+// JSON values free themselves with a list that they allocate. Where memory has run out, that can fail in its
+// turn, within a destructor, and then no handler below is reached.
+[[noreturn]] void end_after_failed_cleanup() {
+  if (!std::current_exception()) std::abort();
+  try {
+    throw;
+  } catch (std::bad_alloc const&) {
+    std::cerr << out_of_memory;
+    std::_Exit(static_cast<int>(ExitStatus::NoResult));
+  } catch (...) {
+    std::abort();
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   // A reader that went away, or a full file, is an output that could not be written, and is told as one.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
+  std::set_terminate(end_after_failed_cleanup);
   ExitStatus status = ExitStatus::NoResult;
   try {
     status = run(argc, argv);
   } catch (std::bad_alloc const&) {
-    std::cerr << "isoxml: out of memory\n";
+    std::cerr << out_of_memory;
   } catch (std::exception const& error) {
     std::cerr << "isoxml: " << escape(error.what()) << '\n';
   }

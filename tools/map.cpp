@@ -356,8 +356,8 @@ std::string as_text_of_script(Json const& data) {
   return text;
 }
 
-void write_page(IsoXmlParser const& set, std::string const& directory, std::ostream& out) {
-  out << map_page_before_data << as_text_of_script(data_of(set, directory)) << map_page_after_data;
+void write_page(std::string const& data, std::ostream& out) {
+  out << map_page_before_data << data << map_page_after_data;
   out.flush();
 }
 
@@ -373,12 +373,13 @@ ExitStatus write_map(MapArguments const& arguments) {
   const ExitStatus status = status_of(documents);
   // A page of an earlier run is worth more than an empty one.
   if (status == ExitStatus::NoResult) return status;
+  const std::string data = as_text_of_script(data_of(set, arguments.set->directory));
   if (arguments.output == "-") {
-    write_page(set, arguments.set->directory, std::cout);  // `main` tells when that failed
+    write_page(data, std::cout);  // `main` tells when that failed
     return status;
   }
   std::ofstream file(arguments.output, std::ios::binary | std::ios::trunc);
-  if (file) write_page(set, arguments.set->directory, file);
+  if (file) write_page(data, file);
   file.close();
   if (file) return status;
   std::cerr << "isoxml: cannot write to " << escape(arguments.output) << '\n';

@@ -92,11 +92,17 @@ function project() {
   }
 }
 
+// In metres. A pivot has its centre first; where its radius is not given, the next point lies on its circle.
+function pivotRadius({ radius, paths: [path] }) {
+  if (radius) return radius / 1000;
+  return path.length > 2 ? Math.hypot(path[2] - path[0], path[3] - path[1]) : 0;
+}
+
 // A pivot's circle about its centre belongs to its bounds.
 function measure(shape) {
   for (const path of shape.paths) addPath(shape.box, path);
-  if (shape.radius && !isEmpty(shape.box)) {
-    const [x, y, r] = [shape.paths[0][0], shape.paths[0][1], shape.radius / 1000];
+  if (shape.isPivot) {
+    const [x, y, r] = [shape.paths[0][0], shape.paths[0][1], pivotRadius(shape)];
     addBox(shape.box, { left: x - r, top: y - r, right: x + r, bottom: y + r });
   }
   return shape.box;
@@ -326,13 +332,10 @@ function drawZones(drawn) {
   drawn.zones += areas.length;
 }
 
-// A pivot has its centre first and marks on its circle, or a radius, behind it.
 function drawPivot(line) {
-  const path = line.paths[0];
-  const radius = line.radius ? line.radius / 1000 : path.length > 2 ? Math.hypot(path[2] - path[0], path[3] - path[1]) : 0;
-  const x = screenX(path[0]), y = screenY(path[1]);
+  const x = screenX(line.paths[0][0]), y = screenY(line.paths[0][1]);
   context.beginPath();
-  context.arc(x, y, Math.max(radius * view.scale, 0.1), 0, 2 * Math.PI);
+  context.arc(x, y, Math.max(pivotRadius(line) * view.scale, 0.1), 0, 2 * Math.PI);
   context.moveTo(x - 5, y);
   context.lineTo(x + 5, y);
   context.moveTo(x, y - 5);
@@ -543,7 +546,7 @@ function chooseField(field, isByMap = false) {
     if (window.innerWidth > 800) field.button.scrollIntoView({ block: "nearest" });
   }
   if (field && !isByMap) zoomTo(field.box);
-  if (field) say(isEmpty(field.box) ? `${field.name} has no geometry` : `${field.name} is shown`);
+  if (field) say(`${field.name || field.id} ${isEmpty(field.box) ? "has no geometry" : "is shown"}`);
   redraw();
 }
 
@@ -749,8 +752,10 @@ function showHeader() {
   if (data.failures.length) {
     byId("failures-title").textContent =
       `${counted(data.failures.length, "document", "documents")} of ${data.documents} could not be read. What ${data.failures.length === 1 ? "it holds" : "they hold"} is missing here.`;
-    byId("failures-list").append(...data.failures.map((failure) => make("li", {}, make("bdi", {}, failure.file),
-      `, line ${failure.line}: ${failure.text}`, failure.item ? make("bdi", {}, ` (${failure.item})`) : null)));
+    for (const failure of data.failures) {
+      byId("failures-list").append(make("li", {}, make("bdi", {}, failure.file),
+        `, line ${failure.line}: ${failure.text}`, failure.item ? make("bdi", {}, ` (${failure.item})`) : null));
+    }
     byId("failures").hidden = false;
   }
   canvas.setAttribute("aria-label", isEmpty(everything) ? "Empty map" : `Map of ${byId("summary").textContent}`);

@@ -73,7 +73,7 @@ class Creation {
   fs::path file;
 };
 
-// Makes the directory where it is missing. The result tells why it can not take the set; "" for nothing.
+// Makes the directory where it is missing. The result tells why it cannot take the set; "" for nothing.
 std::string prepare_directory(fs::path const& directory, Creation& creation) {
   std::error_code error;
   if (fs::create_directory(directory, error)) {
@@ -125,6 +125,11 @@ ExitStatus create(NewArguments const& arguments) {
   return ExitStatus::AllGood;
 }
 
+// The reader is lenient about both, other programs' readers are not.
+std::string refuse_bytes_and_controls(std::string const& text) {
+  return is_plain_text(text) ? "" : "must be UTF-8 without control characters";
+}
+
 }  // namespace
 
 RunCommand prepare_new(CLI::App& options) {
@@ -136,10 +141,12 @@ RunCommand prepare_new(CLI::App& options) {
       ->type_name("");
   options.add_option("--manufacturer", arguments->manufacturer, "Maker of the management software")
       ->check(refuse_empty)
+      ->check(refuse_bytes_and_controls)
       ->type_name("NAME")
       ->capture_default_str();
   options.add_option("--software-version", arguments->software_version, "Version of the management software")
       ->check(refuse_empty)
+      ->check(refuse_bytes_and_controls)
       ->type_name("TEXT")
       ->capture_default_str();
   return [arguments] { return create(*arguments); };

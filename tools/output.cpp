@@ -190,6 +190,15 @@ std::string escape(std::string_view text) {
   return escaped;
 }
 
+bool is_plain_text(std::string_view text) {
+  while (!text.empty()) {
+    const CodePoint character = decode(text);
+    if (character.length == 0 || drives_terminal(character.value)) return false;
+    text.remove_prefix(character.length);
+  }
+  return true;
+}
+
 TextStyle style_of_standard_output() {
   constexpr std::size_t usual_width = 80;
   TextStyle style;

@@ -14,6 +14,9 @@
 /// of valid UTF-8 becomes "\xHH", and a backslash becomes two. Everything else stays.
 std::string escape(std::string_view text);
 
+/// Whether `text` is valid UTF-8 without any of the characters that are escaped for what they do.
+bool is_plain_text(std::string_view text);
+
 /// How text is laid out for the place it goes to.
 struct TextStyle {
   std::size_t width = 0;      ///< In columns of a terminal; no line is wider. 0 is no limit.
@@ -21,7 +24,7 @@ struct TextStyle {
 };
 
 /// What standard output takes: a terminal has a width (80 where it does not tell) and emphasis, unless the
-/// variable NO_COLOR is not empty or the terminal is a "dumb" one; everything else gets plain, whole text.
+/// variable NO_COLOR is not empty or TERM is empty or "dumb"; everything else gets plain, whole text.
 TextStyle style_of_standard_output();
 
 /// Rows of cells in columns as wide as their widest cell, two blanks apart. Cells are escaped here, so that

@@ -9,6 +9,7 @@
 
 #include "isoxmllib/isoxmllib.h"
 #include "tools/geojson.h"
+#include "tools/set_report.h"
 #include "tools/views.h"
 #include "transfer/IsoXmlParser.h"
 
@@ -174,6 +175,8 @@ ExitStatus show_rx(IsoXmlParser const& set, RxArguments const& arguments) {
     print_maps(std::move(maps), form_of(*arguments.is_json));
   }
   if (!is_unknown) return ExitStatus::AllGood;
+  const ExitStatus status = status_of(set.getDocuments());
+  if (status == ExitStatus::NoResult) return status;  // the main document failed: that is what is told
   std::cout.flush();
   std::cerr << "isoxml: no task " << escape(arguments.task_id) << " in the set\n";
   return ExitStatus::NoResult;

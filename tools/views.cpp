@@ -11,6 +11,7 @@
 #include "isoxmllib/isoxmllib.h"
 #include "tools/set_report.h"
 #include "tools/task_state.h"
+#include "tools/zone_values.h"
 #include "transfer/IsoXmlParser.h"
 
 namespace {
@@ -235,14 +236,7 @@ std::vector<TaskRow> task_rows(IsoXmlParser const& set) {
   return rows;
 }
 
-Json count_zones(TaskRow const& row) {
-  std::size_t count = 0;
-  for (std::size_t i = 0; i != row.element->SizeInnerTask(); ++i) {
-    InnerTask const& run = row.element->GetInnerTask(i);
-    if (run.chosen == InnerTask::TreatmentZoneChosen) count += run.SizeTreatmentZone();
-  }
-  return count;
-}
+Json count_zones(TaskRow const& row) { return zones_of(*row.element).size(); }
 
 Columns<TaskRow> task_columns(IsoXmlParser const& set) {
   return {

@@ -12,6 +12,7 @@ class Check(TransferSetTest):
         self.expect(ALL_GOOD, outcome)
         names = ["TASKDATA.XML", "LINKLIST.XML", "CTR00001", "FRM00001"]
         self.assertEqual([f"{directory}/{name}: good" for name in names], outcome.lines)
+        self.assertEqual(outcome.lines, run("check", f"{directory}/").lines)
 
     def test_a_failed_document_is_told_with_line_code_text_and_item(self):
         directory = EXAMPLE_SETS / "broken-external"

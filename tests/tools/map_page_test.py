@@ -144,6 +144,28 @@ class Drawing(MapPageTest):
         self.settle()
         self.assertEqual([[0, 0, 0, 0], [226, 236, 214, 255]], self.pixels_at((0.5, 0.5), (0.5, 0.8)))
 
+    def test_shows_a_pivots_whole_circle(self):
+        """Its bounds are those of the circle, whether the radius is given or a point on the circle."""
+        centre, mark = '<PNT A="8" C="52" D="9"/>', '<PNT A="6" C="52" D="9.002"/>'
+        for caption, radius, points in (("a radius", 'H="137000"', centre), ("a point on it", "", centre + mark)):
+            with self.subTest(caption):
+                self.show_content('<PFD A="PFD1" C="" D="1"><GGP A="GGP1">'
+                                  f'<GPN A="GPN1" C="4" {radius}><LSG A="5">{points}</LSG></GPN></GGP></PFD>')
+                self.settle()
+                left, right, top, bottom = self.browser.run("""
+                    const canvas = document.getElementById("canvas");
+                    const {data, width, height} = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height);
+                    let [left, right, top, bottom] = [width, 0, height, 0];
+                    for (let y = 0; y < height; ++y) for (let x = 0; x < width; ++x) {
+                      const i = 4 * (y * width + x);
+                      if (data[i] !== 122 || data[i + 1] !== 47 || data[i + 2] !== 160) continue;
+                      [left, right, top, bottom] = [Math.min(left, x), Math.max(right, x), Math.min(top, y), Math.max(bottom, y)];
+                    }
+                    return [left, width - right, top, height - bottom];""")
+                self.assertAlmostEqual(left, right, delta=3)
+                self.assertAlmostEqual(top, bottom, delta=3)
+                self.assertGreater(min(left, top), 20)
+
     def test_layers_can_be_switched_off(self):
         self.show(COMPLETE)
         self.assertEqual(["Guidance", "Lines", "Points", "Names"], [text.strip() for text in self.text("#layers label")])
@@ -194,6 +216,14 @@ class Prescriptions(MapPageTest):
         self.browser.run("const list = document.getElementById('variable'); list.value = '1'; list.dispatchEvent(new Event('change'))")
         self.assertEqual(["20", "10", "no value"], values())
         self.assertEqual(3, self.drawn()["zones"])
+
+    def test_legend_holds_long_units_and_names(self):
+        self.show_content(f'<VPN A="VPN1" B="0" C="1" D="7" E="{"W" * 32}"/><TSK A="TSK1" B="{"W" * 32}" G="1"><TZN A="1">'
+                          f'{square(0, 1, "2")}<PDV A="0001" B="2147483647" E="VPN1"/></TZN></TSK>')
+        self.click("#tasks button")
+        inside, whole = self.browser.run("const {clientWidth, scrollWidth} = document.getElementById('legend');"
+                                         "return [clientWidth, scrollWidth]")
+        self.assertEqual(inside, whole)
 
     def test_many_values_are_put_into_classes_without_a_gap(self):
         zones = "".join(f'<TZN A="{i}">{square(i, i + 1, "2")}<PDV A="0001" B="{100 + i * i}"/></TZN>' for i in range(30))
@@ -275,6 +305,12 @@ class Lists(MapPageTest):
         self.show(EXAMPLE_SETS / "broken-external", status=SOME_FAILED)
         self.assertEqual(["1 document of 3 could not be read. What it holds is missing here."], self.text("#failures-title"))
         self.assertEqual(["FRM00001, line 4: Bad end of element (XFC)"], self.text("#failures-list li"))
+
+    def test_very_many_failed_documents_do_not_stop_the_page(self):
+        missing = '<XFR A="CTR00001" B="1"/>' * 150_000
+        self.show_content(f'<PFD A="PFD1" C="F" D="1">{square(0, 1)}</PFD>{missing}', status=SOME_FAILED)
+        self.assertEqual(1, self.drawn()["boundaries"])
+        self.assertEqual(150_000, self.browser.run("return document.querySelectorAll('#failures-list li').length"))
 
     def test_whole_set_has_no_warning(self):
         self.show(COMPLETE)

@@ -100,7 +100,6 @@ class Refusal(TransferSetTest):
         for caption, options, reason in (
             ("a long maker", ["--manufacturer", 33 * "x"], "19: Length too long (ManagementSoftwareManufacturer)"),
             ("a long version", ["--software-version", 33 * "é"], "19: Length too long (ManagementSoftwareVersion)"),
-            ("bytes that are no text", ["--manufacturer", b"\xff\xff"], "23: Not well formed (ISO11783_TaskData)"),
         ):
             for made in (False, True):
                 top = self.make_set()
@@ -126,6 +125,10 @@ class Refusal(TransferSetTest):
             ("an empty maker", ["set", "--manufacturer", ""], "--manufacturer: must not be empty"),
             ("an empty version", ["set", "--software-version", ""], "--software-version: must not be empty"),
             ("a version of nothing", ["set", "--version"], "not expected: --version"),
+            ("bytes that are no text", ["set", "--manufacturer", b"\xff\xff"], "--manufacturer: must be UTF-8"),
+            ("Latin-1", ["set", "--manufacturer", b"H\xe4fe"], "--manufacturer: must be UTF-8"),
+            ("a line feed", ["set", "--manufacturer", "a\nb"], "--manufacturer: must be UTF-8 without control"),
+            ("a control character", ["set", "--software-version", "\x1b[2J"], "--software-version: must be UTF-8"),
         ):
             top = self.make_set()
             with self.subTest(caption):

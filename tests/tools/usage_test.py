@@ -48,7 +48,7 @@ class Usage(TransferSetTest):
         outcome = run("--help")
         self.expect(ALL_GOOD, outcome)
         for command in ("check", "info", "growers", "farms", "fields", "products", "crops", "tasks", "rx", "questions",
-                        "devices"):
+                        "devices", "format", "new", "map"):
             self.assertRegex(outcome.text, rf"(?m)^  {command}  ")
         self.assertIn(EXIT_STATUSES, outcome.text)
 

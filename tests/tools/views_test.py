@@ -245,6 +245,7 @@ class Prescriptions(TransferSetTest):
             self.expect(NO_RESULT, outcome, "isoxml: no task TSK9 in the set\n")
             self.assertEqual(nothing, outcome.text)
         self.expect(NO_RESULT, run("rx", COMPLETE, "\x1b[2J"), "isoxml: no task \\x1b[2J in the set\n")
+        self.expect(NO_RESULT, run("rx", self.make_set(), "TSK9"), "TASKDATA.XML:1: 1: Unable to open file\n")
 
     def test_of_an_identifier_that_tasks_share_are_those_of_the_last(self):
         tasks = "".join(f'<TSK A="TSK1" B="T{i}" G="1" H="{i}"><TZN A="{i}"/></TSK>' for i in (1, 2))
