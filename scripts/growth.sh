@@ -12,8 +12,7 @@ set -eu
 
 # shellcheck disable=SC2086  # a list of words
 install_packages $build_packages libpugixml-dev libexpat1-dev valgrind >&2
-cmake --preset bench >/dev/null
-cmake --build --preset bench --parallel "$(nproc)" --target isoxml_growth >&2
+build_preset bench isoxml_growth >&2
 program=build/bench/bench/isoxml_growth
 
 # instructions <thing> <count>

@@ -52,8 +52,11 @@ prepare_tests() {
   locale -a | grep -qix 'de_DE.utf-\?8' || as_root localedef -i de_DE -f UTF-8 de_DE.UTF-8
 }
 
-# build_preset <preset>: configures and builds, on all processors, what the preset's tests need.
+# build_preset <preset> [<target>...]: configures and builds, on all processors, the targets, or else what the
+# preset's tests need.
 build_preset() {
-  cmake --preset "$1" &&
-    cmake --build --preset "$1" --parallel "$(nproc)"
+  preset=$1
+  shift
+  cmake --preset "$preset" &&
+    cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"}
 }

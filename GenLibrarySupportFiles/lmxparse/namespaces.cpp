@@ -18,14 +18,13 @@ char const* c_enumerated_namespaces::find_namespace_from_id(int id) const {
 }
 
 int c_enumerated_namespaces::add_namespace(char const* uri) {
-  const int id = find_namespace(uri);
-  if (id != nsid_not_found) return id;
-  m_ids.set(uri, m_next_id);
-  return m_next_id++;
+  const int id = m_ids.find_or_add(uri, m_next_id);
+  if (id == m_next_id) ++m_next_id;  // new: those given out before are below
+  return id;
 }
 
 void c_enumerated_namespaces::add_namespace(char const* uri, int id) {
-  if (find_namespace(uri) == nsid_not_found) m_ids.set(uri, id);
+  m_ids.find_or_add(uri, id);
   if (m_next_id <= id) m_next_id = id + 1;
 }
 

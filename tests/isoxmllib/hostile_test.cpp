@@ -1,7 +1,8 @@
 // Documents made to do harm: nesting, entities, and sizes far beyond use; NUL bytes; every beginning. Each
 // gets its exact code, strictly and from a reader whose host lets everything pass, whole and cut off
 // anywhere. None may hang, and none may take memory out of proportion: a fixed allowance, and four bytes for
-// each byte of the document and of the expansion that its entities are allowed.
+// each byte of the document and of the expansion that its entities are allowed. What each takes in time is
+// for scripts/hostile.sh to tell.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -345,6 +345,22 @@ TEST(Repository, KeepsTheOrderOfEntryAndTheLastValue) {
   }
 }
 
+TEST(Repository, FindsEachNameWhateverTheirNumber) {
+  lmx::c_repository<int> repository;
+  for (int i = 0; i != 2000; ++i) {
+    const string name = "name" + std::to_string(i);
+    ASSERT_EQ(nullptr, repository.find(name));
+    EXPECT_EQ(i, repository.find_or_add(name, i));
+    EXPECT_EQ(i, repository.find_or_add(name, -1)) << "the first value stays";
+    ASSERT_EQ(static_cast<std::size_t>(i) + 1, repository.size());
+    for (int known = i; known >= 0; known -= 1 + i / 8) {
+      int const* const value = repository.find("name" + std::to_string(known));
+      ASSERT_NE(nullptr, value) << known << " of " << i;
+      ASSERT_EQ(known, *value);
+    }
+  }
+}
+
 TEST(Repository, OwnsItsTexts) {
   lmx::c_repository<char const*> repository;
   string name = "name", value = "value";
