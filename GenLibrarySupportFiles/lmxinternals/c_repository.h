@@ -5,12 +5,21 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "GenLibrarySupportFiles/lmxinternals/api.h"
+
 namespace lmx {
+
+namespace detail {
+
+/// A hash of a name that a document has chosen. It differs from process to process, so that nobody can choose
+/// names that share one and make each lookup a walk over all of them.
+ISOXML_API std::size_t hash_of_name(std::string const& name);
+
+}  // namespace detail
 
 /// How a repository keeps its values: as they are.
 template <class T>
@@ -35,7 +44,7 @@ class c_repository {
   /// The value under `name`, borrowed until the next change; null when there is none.
   stored const* find(std::string const& name) const {
     std::size_t const index =
-        is_indexed() ? m_places[place_of(name, hash_of(name))].index() : look_at_each(name);
+        is_indexed() ? m_places[place_of(name, detail::hash_of_name(name))].index() : look_at_each(name);
     return index < m_entries.size() ? &m_entries[index].second : nullptr;
   }
   /// The value under `name`, entered now if there is none yet; borrowed until the next change.
@@ -70,8 +79,6 @@ class c_repository {
 
   bool is_indexed() const { return m_entries.size() > indexed_from; }
 
-  static std::size_t hash_of(std::string const& name) { return std::hash<std::string>()(name); }
-
   std::size_t look_at_each(std::string const& name) const {
     std::size_t index = 0;
     while (index != m_entries.size() && m_entries[index].first != name) ++index;
@@ -99,7 +106,7 @@ class c_repository {
       return {index, index == next};
     }
     if (m_places.size() < 2 * (next + 1)) make_places();
-    std::size_t const hash = hash_of(name);
+    std::size_t const hash = detail::hash_of_name(name);
     place& found = m_places[place_of(name, hash)];
     if (!found.is_free()) return {found.index(), false};
     m_entries.emplace_back(name, value);
@@ -120,7 +127,7 @@ class c_repository {
     };
     if (m_places.empty()) {
       for (std::size_t index = 0; index != m_entries.size(); ++index)
-        put(hash_of(m_entries[index].first), index + 1);
+        put(detail::hash_of_name(m_entries[index].first), index + 1);
     } else {
       for (place const& known : m_places) {
         if (!known.is_free()) put(known.hash, known.number);
