@@ -175,21 +175,28 @@ unsigned char const* c_xml::p_scan_plain_attributes(byte_window window, bool tak
   unsigned char const* const end = window.end;
   std::size_t count = 0;
   for (;;) {
-    if (*p == ' ') ++p;  // nearly always the only one
-    if (p != end && *p <= ' ') p = skip_space(p, end, line_feeds);
-    if (end - p < 2) return nullptr;
-    if (*p == '>' || (*p == '/' && p[1] == '>')) {
-      m_plain_count = count;
-      return p;
+    unsigned char const* name = p + 1;
+    std::size_t name_length = 1;
+    unsigned char quote = '"';
+    const bool is_usual = end - p > 4 && *p == ' ' && p[2] == '=' && p[3] == '"';  // ` A="`
+    if (is_usual) {
+      p += 2;
+    } else {
+      p = skip_space(p, end, line_feeds);
+      if (end - p < 2) return nullptr;
+      if (*p == '>' || (*p == '/' && p[1] == '>')) {
+        m_plain_count = count;
+        return p;
+      }
+      name = p;
+      p = skip_name(p, end);
+      name_length = distance(name, p);
+      if (end - p < 3 || *p != '=') return nullptr;
+      quote = p[1];
+      if (quote != '"' && quote != '\'') return nullptr;
+      if (!take_declarations && declares_namespace(as_chars(name), name_length)) return nullptr;
     }
-    if (!is_in_class(*p, plain_name_start) || count == most_plain_attributes) return nullptr;
-    unsigned char const* const name = p;
-    p = p[1] == '=' ? p + 1 : skip_name(p, end);
-    const std::size_t name_length = distance(name, p);
-    if (end - p < 3 || *p != '=') return nullptr;
-    const unsigned char quote = p[1];
-    if (quote != '"' && quote != '\'') return nullptr;
-    if (!take_declarations && declares_namespace(as_chars(name), name_length)) return nullptr;
+    if (!is_in_class(*name, plain_name_start) || count == most_plain_attributes) return nullptr;
     unsigned char const* const value = p + 2;
     p = skip_value(value, end, quote);
     if (p == end || *p != quote) return nullptr;
