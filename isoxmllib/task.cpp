@@ -1025,11 +1025,11 @@ bool Position::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
     case attr_East: return read_attribute(reader, m_East, spec_degrees_longitude, __LINE__, error);
     case attr_Altitude: return read_attribute(reader, m_Altitude, spec_range_minus_2147483648_to_2147483647_int32, __LINE__, error);
     case attr_Status: return read_attribute(reader, m_Status, spec_one_of_0_to_15, __LINE__, error);
-    case attr_PDOP: return read_attribute(reader, m_rare.get_or_create().m_PDOP, spec_dilution, __LINE__, error);
-    case attr_HDOP: return read_attribute(reader, m_rare.get_or_create().m_HDOP, spec_dilution, __LINE__, error);
+    case attr_PDOP: return read_attribute(reader, m_PDOP, spec_dilution, __LINE__, error);
+    case attr_HDOP: return read_attribute(reader, m_HDOP, spec_dilution, __LINE__, error);
     case attr_NumberOfSatelites: return read_attribute(reader, m_NumberOfSatelites, spec_range_0_to_254_uint8, __LINE__, error);
-    case attr_GpsUtcTime: return read_attribute(reader, m_rare.get_or_create().m_GpsUtcTime, spec_range_0_to_4294967294_uint32, __LINE__, error);
-    case attr_PgsUtcDate: return read_attribute(reader, m_rare.get_or_create().m_PgsUtcDate, spec_range_0_to_65534_uint16, __LINE__, error);
+    case attr_GpsUtcTime: return read_attribute(reader, m_GpsUtcTime, spec_range_0_to_4294967294_uint32, __LINE__, error);
+    case attr_PgsUtcDate: return read_attribute(reader, m_PgsUtcDate, spec_range_0_to_65534_uint16, __LINE__, error);
   }
   return false;
 }
@@ -1039,11 +1039,11 @@ bool Position::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute con
     case 'B': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
     case 'C': return binding::accept_attribute(reader, m_Altitude, spec_range_minus_2147483648_to_2147483647_int32, attribute);
     case 'D': return binding::accept_attribute(reader, m_Status, spec_one_of_0_to_15, attribute);
-    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_PDOP, spec_dilution, attribute);
-    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_HDOP, spec_dilution, attribute);
+    case 'E': return binding::accept_attribute(reader, m_PDOP, spec_dilution, attribute);
+    case 'F': return binding::accept_attribute(reader, m_HDOP, spec_dilution, attribute);
     case 'G': return binding::accept_attribute(reader, m_NumberOfSatelites, spec_range_0_to_254_uint8, attribute);
-    case 'H': return binding::accept_attribute(reader, m_rare.get_or_create().m_GpsUtcTime, spec_range_0_to_4294967294_uint32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_rare.get_or_create().m_PgsUtcDate, spec_range_0_to_65534_uint16, attribute);
+    case 'H': return binding::accept_attribute(reader, m_GpsUtcTime, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(reader, m_PgsUtcDate, spec_range_0_to_65534_uint16, attribute);
   }
   return false;
 }
@@ -1053,20 +1053,15 @@ lmx::elmx_error Position::unmarshal_attributes_check(lmx::xmlReader& reader) {
 bool Position::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Position::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
 void Position::marshal_attributes(lmx::c_xml_writer& writer) const {
-  auto const* const rare = m_rare.find();
   write_attribute(writer, "A", m_North, spec_degrees_latitude);
   write_attribute(writer, "B", m_East, spec_degrees_longitude);
   write_attribute(writer, "C", m_Altitude, spec_range_minus_2147483648_to_2147483647_int32);
   write_attribute(writer, "D", m_Status, spec_one_of_0_to_15);
-  if (rare != nullptr) {
-    write_attribute(writer, "E", rare->m_PDOP, spec_dilution);
-    write_attribute(writer, "F", rare->m_HDOP, spec_dilution);
-  }
+  write_attribute(writer, "E", m_PDOP, spec_dilution);
+  write_attribute(writer, "F", m_HDOP, spec_dilution);
   write_attribute(writer, "G", m_NumberOfSatelites, spec_range_0_to_254_uint8);
-  if (rare != nullptr) {
-    write_attribute(writer, "H", rare->m_GpsUtcTime, spec_range_0_to_4294967294_uint32);
-    write_attribute(writer, "I", rare->m_PgsUtcDate, spec_range_0_to_65534_uint16);
-  }
+  write_attribute(writer, "H", m_GpsUtcTime, spec_range_0_to_4294967294_uint32);
+  write_attribute(writer, "I", m_PgsUtcDate, spec_range_0_to_65534_uint16);
 }
 lmx::elmx_error Position::marshal_child_elements(lmx::c_xml_writer&) const {
   return lmx::ELMX_OK;

@@ -1202,16 +1202,16 @@ class ISOXML_API Position {
   bool SetenumStatus(elmx_enums code);
 
   /// Position dilution of precision. Attribute "E", optional; 0.0 to 99.9.
-  lmx::elmx_error SetPDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_PDOP.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetPDOP() const { return m_rare.get().m_PDOP.get(); }
-  bool IssetPDOP() const { return m_rare.get().m_PDOP.is_set(); }
-  void UnsetPDOP() { if (m_rare.is_there()) m_rare.get_or_create().m_PDOP.unset(); }
+  lmx::elmx_error SetPDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_PDOP.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetPDOP() const { return m_PDOP.get(); }
+  bool IssetPDOP() const { return m_PDOP.is_set(); }
+  void UnsetPDOP() { m_PDOP.unset(); }
 
   /// Horizontal dilution of precision. Attribute "F", optional; 0.0 to 99.9.
-  lmx::elmx_error SetHDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_rare.get_or_create().m_HDOP.set(value); }
-  velmo::lmx::high_precision_c_decimal const& GetHDOP() const { return m_rare.get().m_HDOP.get(); }
-  bool IssetHDOP() const { return m_rare.get().m_HDOP.is_set(); }
-  void UnsetHDOP() { if (m_rare.is_there()) m_rare.get_or_create().m_HDOP.unset(); }
+  lmx::elmx_error SetHDOP(velmo::lmx::high_precision_c_decimal const& value) { return m_HDOP.set(value); }
+  velmo::lmx::high_precision_c_decimal const& GetHDOP() const { return m_HDOP.get(); }
+  bool IssetHDOP() const { return m_HDOP.is_set(); }
+  void UnsetHDOP() { m_HDOP.unset(); }
 
   /// Number of satellites used for the position. Attribute "G", optional; 0 to 254.
   lmx::elmx_error SetNumberOfSatelites(unsigned char const& value) { return m_NumberOfSatelites.set(value); }
@@ -1221,16 +1221,16 @@ class ISOXML_API Position {
 
   /// UTC time of day of the position, in milliseconds since midnight. Attribute "H", optional; 0 to
   /// 4294967294.
-  lmx::elmx_error SetGpsUtcTime(unsigned int const& value) { return m_rare.get_or_create().m_GpsUtcTime.set(value); }
-  unsigned int const& GetGpsUtcTime() const { return m_rare.get().m_GpsUtcTime.get(); }
-  bool IssetGpsUtcTime() const { return m_rare.get().m_GpsUtcTime.is_set(); }
-  void UnsetGpsUtcTime() { if (m_rare.is_there()) m_rare.get_or_create().m_GpsUtcTime.unset(); }
+  lmx::elmx_error SetGpsUtcTime(unsigned int const& value) { return m_GpsUtcTime.set(value); }
+  unsigned int const& GetGpsUtcTime() const { return m_GpsUtcTime.get(); }
+  bool IssetGpsUtcTime() const { return m_GpsUtcTime.is_set(); }
+  void UnsetGpsUtcTime() { m_GpsUtcTime.unset(); }
 
   /// UTC date of the position, in days since 1980-01-01. Attribute "I", optional; 0 to 65534.
-  lmx::elmx_error SetPgsUtcDate(unsigned short const& value) { return m_rare.get_or_create().m_PgsUtcDate.set(value); }
-  unsigned short const& GetPgsUtcDate() const { return m_rare.get().m_PgsUtcDate.get(); }
-  bool IssetPgsUtcDate() const { return m_rare.get().m_PgsUtcDate.is_set(); }
-  void UnsetPgsUtcDate() { if (m_rare.is_there()) m_rare.get_or_create().m_PgsUtcDate.unset(); }
+  lmx::elmx_error SetPgsUtcDate(unsigned short const& value) { return m_PgsUtcDate.set(value); }
+  unsigned short const& GetPgsUtcDate() const { return m_PgsUtcDate.get(); }
+  bool IssetPgsUtcDate() const { return m_PgsUtcDate.is_set(); }
+  void UnsetPgsUtcDate() { m_PgsUtcDate.unset(); }
 
   /// True when everything required is there; otherwise what is missing is recorded (see `c_check_tracker`).
   bool IsOccursOk(lmx::c_check_tracker* tracker = nullptr) const;
@@ -1263,14 +1263,11 @@ class ISOXML_API Position {
   lmx::ct_simple_pod_single<velmo::lmx::high_precision_c_decimal> m_East;
   lmx::ct_simple_pod_optional<int> m_Altitude;
   lmx::ct_simple_pod_single<std::string> m_Status;
+  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_PDOP;
+  lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_HDOP;
   lmx::ct_simple_pod_optional<unsigned char> m_NumberOfSatelites;
-  struct rare_fields {
-    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_PDOP;
-    lmx::ct_simple_pod_optional<velmo::lmx::high_precision_c_decimal> m_HDOP;
-    lmx::ct_simple_pod_optional<unsigned int> m_GpsUtcTime;
-    lmx::ct_simple_pod_optional<unsigned short> m_PgsUtcDate;
-  };
-  lmx::ct_rare<rare_fields> m_rare;
+  lmx::ct_simple_pod_optional<unsigned int> m_GpsUtcTime;
+  lmx::ct_simple_pod_optional<unsigned short> m_PgsUtcDate;
 };
 
 /// DataLogTrigger, element "DLT". Orders the task controller to log a value and tells what starts each
