@@ -4,7 +4,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -196,68 +198,171 @@ class ct_complex_optional {
   std::unique_ptr<T> p;
 };
 
-/// Children in document order. Copies are deep, by each child's `clone`.
+namespace detail {
+
+/// Storage for objects of one type that are made one after the other and mostly go together, in blocks of a
+/// growing number of places. What stands in them is the owner's to make and to destroy.
+template <class T>
+class block_storage {
+ public:
+  block_storage() = default;
+  block_storage(block_storage&& other) noexcept : mp_last(std::exchange(other.mp_last, nullptr)) {}
+  block_storage& operator=(block_storage&& other) noexcept {
+    std::swap(mp_last, other.mp_last);
+    return *this;
+  }
+  ~block_storage() { clear(); }
+
+  /// A place for an object, the same one until it is taken.
+  void* free_place() {
+    if (mp_last == nullptr || mp_last->used == mp_last->capacity) add_block();
+    return reinterpret_cast<unsigned char*>(mp_last) + header_size + mp_last->used * sizeof(T);
+  }
+  void take_place() { ++mp_last->used; }
+  void clear() {
+    while (mp_last != nullptr) ::operator delete(std::exchange(mp_last, mp_last->p_previous));
+  }
+
+ private:
+  struct block {
+    block* p_previous;
+    std::size_t capacity;
+    std::size_t used;
+  };
+
+  static constexpr std::size_t most_places = 64;
+  static constexpr std::size_t header_size = (sizeof(block) + alignof(T) - 1) / alignof(T) * alignof(T);
+
+  void add_block() {
+    static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__, "");
+    std::size_t const capacity = mp_last == nullptr                ? 1
+                                 : mp_last->capacity < most_places ? 2 * mp_last->capacity
+                                                                   : most_places;
+    mp_last = ::new (::operator new(header_size + capacity * sizeof(T))) block{mp_last, capacity, 0};
+  }
+
+  block* mp_last = nullptr;
+};
+
+/// A child that is owned by a list, on its own or within the list's blocks.
+template <class T>
+class listed_child {
+ public:
+  listed_child(T* child, bool is_in_block)
+      : m_bits(reinterpret_cast<std::uintptr_t>(child) | (is_in_block ? 1u : 0u)) {
+    static_assert(alignof(T) > 1, "the lowest bit of the address is free");
+  }
+  T& get() const { return *reinterpret_cast<T*>(m_bits & ~std::uintptr_t{1}); }
+  void destroy() const {
+    if ((m_bits & 1) != 0) {
+      get().~T();
+    } else {
+      delete &get();
+    }
+  }
+
+ private:
+  std::uintptr_t m_bits;
+};
+
+}  // namespace detail
+
+/// Children in document order, each at an address of its own. Copies are deep, by each child's `clone`.
 template <class T>
 class ct_complex_multi {
  public:
   ct_complex_multi() = default;
-  ct_complex_multi(ct_complex_multi const& other) {
+  ct_complex_multi(ct_complex_multi const& other) : ct_complex_multi() {
     m_values.reserve(other.size());
-    for (auto const& value : other.m_values) m_values.emplace_back(value->clone());
+    for (std::size_t i = 0; i != other.size(); ++i) append(std::unique_ptr<T>(other.get(i).clone()));
   }
-  ct_complex_multi(ct_complex_multi&&) noexcept = default;
+  ct_complex_multi(ct_complex_multi&& other) noexcept { swap(other); }
   ct_complex_multi& operator=(ct_complex_multi const& other) {
     ct_complex_multi copy(other);
-    m_values.swap(copy.m_values);
+    swap(copy);
     return *this;
   }
-  ct_complex_multi& operator=(ct_complex_multi&&) noexcept = default;
+  ct_complex_multi& operator=(ct_complex_multi&& other) noexcept {
+    ct_complex_multi taken(std::move(other));
+    swap(taken);
+    return *this;
+  }
+  ~ct_complex_multi() { p_destroy_all(); }
 
   std::size_t size() const { return m_values.size(); }
   bool empty() const { return m_values.empty(); }
   T const& get(std::size_t index_in) const {
     LMX_ASSERT(index_in < m_values.size());
-    return *m_values[index_in];
+    return m_values[index_in].get();
   }
   T& get(std::size_t index_in) {
     LMX_ASSERT(index_in < m_values.size());
-    return *m_values[index_in];
+    return m_values[index_in].get();
   }
   /// The child at `index`; default children are added until it exists.
   T& get_or_append(std::size_t index) {
     while (size() <= index) append();
-    return *m_values[index];
+    return m_values[index].get();
   }
   T& back() {
     LMX_ASSERT(!m_values.empty());
-    return *m_values.back();
+    return m_values.back().get();
   }
-  T& append() { return append(std::make_unique<T>()); }
+  T& append() {
+    p_make_room();
+    T* const child = ::new (m_blocks.free_place()) T();
+    m_blocks.take_place();
+    m_values.emplace_back(child, true);
+    return *child;
+  }
   T& append(std::unique_ptr<T> value) {
-    constexpr std::size_t usual_start = 3;  // which fill what is the smallest allocation anyway
-    if (m_values.capacity() == 0) m_values.reserve(usual_start);
-    m_values.push_back(std::move(value));
-    return *m_values.back();
+    p_make_room();
+    m_values.emplace_back(value.release(), false);
+    return m_values.back().get();
   }
   T& insert(std::size_t index) { return insert(index, std::make_unique<T>()); }
   T& insert(std::size_t index_in, std::unique_ptr<T> value) {
     LMX_ASSERT(index_in <= m_values.size());
-    return **m_values.insert(m_values.begin() + static_cast<std::ptrdiff_t>(index_in), std::move(value));
+    p_make_room();
+    return m_values.emplace(p_at(index_in), value.release(), false)->get();
   }
   /// Replaces the child at `index`; default children are added until it exists.
   void assign(std::size_t index, T const& value) { assign(index, std::unique_ptr<T>(value.clone())); }
   void assign(std::size_t index, std::unique_ptr<T> value) {
     get_or_append(index);
-    m_values[index] = std::move(value);
+    m_values[index].destroy();
+    m_values[index] = {value.release(), false};
   }
   void erase(std::size_t index_in) {
     LMX_ASSERT(index_in < m_values.size());
-    m_values.erase(m_values.begin() + static_cast<std::ptrdiff_t>(index_in));
+    m_values[index_in].destroy();
+    m_values.erase(p_at(index_in));
   }
-  void clear() { m_values.clear(); }
+  void clear() {
+    p_destroy_all();
+    m_values.clear();
+    m_blocks.clear();
+  }
+  void swap(ct_complex_multi& other) noexcept {
+    m_values.swap(other.m_values);
+    std::swap(m_blocks, other.m_blocks);
+  }
 
  private:
-  std::vector<std::unique_ptr<T>> m_values;
+  auto p_at(std::size_t index) { return m_values.begin() + static_cast<std::ptrdiff_t>(index); }
+  // For one more child, so that it is owned as soon as it is there.
+  void p_make_room() {
+    constexpr std::size_t usual_start = 3;  // which fill what is the smallest allocation anyway
+    if (m_values.size() == m_values.capacity()) {
+      m_values.reserve(m_values.empty() ? usual_start : 2 * m_values.size());
+    }
+  }
+  void p_destroy_all() {
+    for (detail::listed_child<T> const& child : m_values) child.destroy();
+  }
+
+  std::vector<detail::listed_child<T>> m_values;
+  detail::block_storage<T> m_blocks;  // of the children that were made here
 };
 
 }  // namespace lmx

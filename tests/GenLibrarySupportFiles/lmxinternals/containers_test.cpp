@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <new>
+#include <random>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -305,6 +307,92 @@ TEST_F(Owners, ChildrenAreCloned) {
   auto const& same = assigned;
   assigned = same;
   EXPECT_EQ((std::vector<int>{1, 2}), values(assigned));
+}
+
+// Children that the list makes itself lie in blocks of its own, others where they were made.
+TEST_F(Owners, ChildrenComeAndGoInAnyOrder) {
+  std::minstd_rand random(7);
+  auto const below = [&random](std::size_t limit) {
+    return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random);
+  };
+  lmx::ct_complex_multi<Child> children;
+  std::vector<int> expected;
+  for (int step = 0; step != 20000; ++step) {
+    std::size_t const index = below(expected.size() + 1);
+    bool const is_there = index != expected.size();
+    auto const at = expected.begin() + static_cast<std::ptrdiff_t>(index);
+    switch (below(is_there ? 9 : 4)) {
+      case 0:
+      case 1:
+        children.append().value = step;
+        expected.push_back(step);
+        break;
+      case 2:
+        children.append(std::make_unique<Child>(step));
+        expected.push_back(step);
+        break;
+      case 3:
+        children.insert(index).value = step;
+        expected.insert(at, step);
+        break;
+      case 4:
+        children.assign(index, std::make_unique<Child>(step));
+        expected[index] = step;
+        break;
+      case 5:
+        children.assign(index, Child(step));
+        expected[index] = step;
+        break;
+      case 6:
+      case 7:
+        children.erase(index);
+        expected.erase(at);
+        break;
+      default:
+        if (below(300) == 0) {
+          lmx::ct_complex_multi<Child> moved(std::move(children));
+          children.append();
+          children = std::move(moved);
+        } else if (below(300) == 0) {
+          children.clear();
+          expected.clear();
+        }
+    }
+    ASSERT_EQ(expected.size(), children.size()) << step;
+    ASSERT_EQ(static_cast<int>(expected.size()), Child::alive) << step;
+    if (step % 100 == 0) {
+      ASSERT_EQ(expected, values(children)) << step;
+    }
+  }
+}
+
+/// A child whose making or cloning may fail.
+struct Fragile {
+  explicit Fragile(int value_in = 0) : child(value_in) {
+    if (is_broken) throw std::bad_alloc();
+  }
+  Fragile* clone() const { return new Fragile(child.value); }
+  Child child;
+  static bool is_broken;
+};
+bool Fragile::is_broken = false;
+
+TEST_F(Owners, ChildrenThatCannotBeMadeLeaveTheListAsItIs) {
+  for (std::size_t const count : {0u, 1u, 2u, 3u, 7u, 100u}) {
+    lmx::ct_complex_multi<Fragile> children;
+    for (std::size_t i = 0; i != count; ++i) children.append().child.value = static_cast<int>(i);
+    Fragile::is_broken = true;
+    EXPECT_THROW(children.append(), std::bad_alloc);
+    EXPECT_THROW(children.insert(0), std::bad_alloc);
+    if (count != 0) {
+      EXPECT_THROW(lmx::ct_complex_multi<Fragile>{children}, std::bad_alloc);
+    }
+    Fragile::is_broken = false;
+    ASSERT_EQ(count, children.size());
+    EXPECT_EQ(static_cast<int>(count), Child::alive);
+    children.append().child.value = static_cast<int>(count);
+    for (std::size_t i = 0; i <= count; ++i) EXPECT_EQ(static_cast<int>(i), children.get(i).child.value);
+  }
 }
 
 TEST(ContainerDeathTest, StopsOnWhatIsNotThere) {
