@@ -70,6 +70,7 @@ bool c_unmarshal_helper::p_is_element_event() const {
 // ---- Attributes ----
 
 elmx_error c_unmarshal_helper::p_unmarshal_all_attributes() {
+  if (mr_reader.take_plain_attributes_end()) return unmarshal_attributes_check();
   elmx_error error = ELMX_OK;
   while (mr_reader.get_attribute_event(nullptr, &error, &mr_reader.m_name)) {
     if (error != ELMX_OK) {

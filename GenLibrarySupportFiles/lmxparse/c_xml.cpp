@@ -96,40 +96,34 @@ elxp_xml_event c_xml::p_not_well_formed() {
   return EXE_ERROR;
 }
 
-elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
-  for (;;) {
-    const elxp_xml_event plain = p_get_plain_item(local, name);
-    if (plain != EXE_UNKNOWN) return plain;
-    name->clear();
-    int c = m_getter.get_non_space();
-    if (c == -1) {
-      m_past_prolog = true;
-      return EXE_EOM;
-    }
-    if (c == '&') {
-      if (!p_select_input_entity(name)) return EXE_ERROR;
-      if (name->empty()) continue;
-      return p_get_text(name, -1);
-    }
-    if (c != '<') return p_get_text(name, c);
-    c = m_getter.get();
-    if (is_name_start(c)) return p_get_start_tag(local, name, c);
-    if (c == '/') return p_get_end_tag(name);
-    if (c == '?') {
-      if (!p_handle_lt_qmark()) return EXE_ERROR;
-    } else if (c == '!') {
-      elxp_xml_event event = EXE_UNKNOWN;
-      if (!p_handle_lt_pling(name, &event)) {
-        LMX_ASSERT(event != EXE_UNKNOWN);
-        m_past_prolog = true;
-        return event;
-      }
-    } else {
-      p_not_well_formed();
-      m_getter.move_to_start_tag_end(nullptr);
-      return EXE_ERROR;
-    }
+// An item of any kind; EXE_UNKNOWN for what is none: a reference that gives nothing, a comment, an
+// instruction.
+elxp_xml_event c_xml::p_get_item(c_xml_local* local, std::string* name) {
+  name->clear();
+  int c = m_getter.get_non_space();
+  if (c == -1) {
+    m_past_prolog = true;
+    return EXE_EOM;
   }
+  if (c == '&') {
+    if (!p_select_input_entity(name)) return EXE_ERROR;
+    return name->empty() ? EXE_UNKNOWN : p_get_text(name, -1);
+  }
+  if (c != '<') return p_get_text(name, c);
+  c = m_getter.get();
+  if (is_name_start(c)) return p_get_start_tag(local, name, c);
+  if (c == '/') return p_get_end_tag(name);
+  if (c == '?') return p_handle_lt_qmark() ? EXE_UNKNOWN : EXE_ERROR;
+  if (c == '!') {
+    elxp_xml_event event = EXE_UNKNOWN;
+    if (p_handle_lt_pling(name, &event)) return EXE_UNKNOWN;
+    LMX_ASSERT(event != EXE_UNKNOWN);
+    m_past_prolog = true;
+    return event;
+  }
+  p_not_well_formed();
+  m_getter.move_to_start_tag_end(nullptr);
+  return EXE_ERROR;
 }
 
 // A tag that lies whole in the source's buffer: its name, single line feeds and other white space between
@@ -449,16 +443,9 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
     m_attributes.take_name(name);
     return EXE_TOKEN;
   }
-  const byte_window window = m_getter.plain_window();
-  if (window.end - window.begin >= 2 && !in_decl) {
-    if (*window.begin == '>') {
-      m_getter.consume_plain(window.begin + 1);
-      return EXE_START_TAG_END;
-    }
-    if (*window.begin == '/' && window.begin[1] == '>') {
-      m_getter.consume_plain(window.begin + 2);
-      return EXE_ELEMENT_END;
-    }
+  if (!in_decl) {
+    const elxp_xml_event end = p_take_plain_tag_end();
+    if (end != EXE_UNKNOWN) return end;
   }
   int c = m_getter.get_non_space();
   if (c == '>') return EXE_START_TAG_END;

@@ -105,10 +105,25 @@ class ISOXML_API c_xml {
   /// end tag, its name in
   /// `*name`. EXE_TEXT: character data between tags in `*name`, without the white space before it.
   /// EXE_EOM, or EXE_ERROR with the code in `c_error` (a few failures report nothing).
-  elxp_xml_event get_element_name(c_xml_local* local, std::string* name);
+  elxp_xml_event get_element_name(c_xml_local* local, std::string* name) {
+    for (;;) {
+      elxp_xml_event const plain = p_get_plain_item(local, name);
+      if (plain != EXE_UNKNOWN) return plain;
+      elxp_xml_event const item = p_get_item(local, name);
+      if (item != EXE_UNKNOWN) return item;
+    }
+  }
   /// The next captured attribute: EXE_TOKEN with its name. After the last one the end of the tag is read:
   /// EXE_START_TAG_END or EXE_ELEMENT_END ("?>" when `in_decl`), or EXE_ERROR with 23.
   elxp_xml_event get_attribute_name(std::string* name, bool in_decl);
+  /// What `get_attribute_name` gives where no attribute is left and the tag's end lies in the source's
+  /// buffer; else EXE_UNKNOWN, with nothing changed.
+  elxp_xml_event take_plain_tag_end(std::string* name) {
+    if (m_plain_next != m_plain_count || m_attributes.has_next()) return EXE_UNKNOWN;
+    elxp_xml_event const end = p_take_plain_tag_end();
+    if (end != EXE_UNKNOWN) name->clear();
+    return end;
+  }
   /// The value of the attribute just named, references expanded. False when one can not be; the next
   /// attribute is reached either way.
   bool get_attribute_value(std::string* out, elmx_whitespace mode);
@@ -201,7 +216,16 @@ class ISOXML_API c_xml {
   bool p_get_xml_text(std::string* out);
   bool p_select_entity(c_entity_name_reader& reader, std::string* out);
   bool p_select_input_entity(std::string* out);
+  elxp_xml_event p_get_item(c_xml_local* local, std::string* name);
   elxp_xml_event p_get_plain_item(c_xml_local const* local, std::string* name);
+  elxp_xml_event p_take_plain_tag_end() {
+    byte_window const window = m_getter.plain_window();
+    if (window.end - window.begin < 2) return EXE_UNKNOWN;
+    bool const is_empty = window.begin[0] == '/' && window.begin[1] == '>';
+    if (!is_empty && window.begin[0] != '>') return EXE_UNKNOWN;
+    m_getter.consume_plain(window.begin + (is_empty ? 2 : 1));
+    return is_empty ? EXE_ELEMENT_END : EXE_START_TAG_END;
+  }
   unsigned char const* p_scan_plain_attributes(byte_window window, bool take_declarations, int* line_feeds);
   bool p_is_plain() const { return m_plain_count != 0 && m_plain_fetches == m_getter.fetches(); }
   void p_copy_plain_attributes();

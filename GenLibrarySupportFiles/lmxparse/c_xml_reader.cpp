@@ -209,7 +209,8 @@ void c_xml_reader::get_known_element_event(elmx_error* error, std::string* name)
 
 void c_xml_reader::get_known_element_event(s_event_map const* map, elmx_error* error, std::string* name) {
   LMX_ASSERT(mp_known_elements);
-  get_element_event(map, error, name);
+  get_element_event(error, name);
+  if (m_event == EXE_TOKEN && map != nullptr) tokenise(map, EXAE_ELEMENT);
 }
 
 elmx_error c_xml_reader::ignore_element(s_event_map const* map) {

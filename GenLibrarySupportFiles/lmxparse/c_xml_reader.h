@@ -106,6 +106,14 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   /// left as EXE_TOKEN. `*error` is 0, or why the attribute could not be read (the result is then true).
   bool get_attribute_event(s_event_map const* map, elmx_error* error, std::string* name);
   int get_attribute_event(s_event_map const* map, std::string* name);
+  /// What the former does at a start tag's end, where all attributes have been taken and the end lies in the
+  /// source's buffer; else false, with nothing changed.
+  bool take_plain_attributes_end() {
+    elxp_xml_event const end = take_plain_tag_end(&m_name);
+    if (end == EXE_UNKNOWN) return false;
+    m_event = end;
+    return true;
+  }
 
   /// The next item of content. While a table of known elements is selected, an element that it does not
   /// hold is offered to `on_unknown_element` and skipped. `*error` is 0, or why nothing could be read.
