@@ -33,7 +33,7 @@ class ISOXML_API c_decimal {
   };
 
   /// Zero.
-  c_decimal() noexcept : m_text(std::string_view("0")) {}
+  c_decimal() noexcept : m_text('0') {}
   /// Reads an optional sign, digits, and after a "." more digits, under every locale; drops whatever
   /// follows. No digits give zero; a null pointer counts as the empty text.
   c_decimal(char const* text) { p_init(text, point_only); }

@@ -19,6 +19,10 @@ class ISOXML_API compact_text {
  public:
   compact_text() noexcept { p_set_in_place_size(0); }
   explicit compact_text(std::string_view text) : compact_text() { assign(text); }
+  explicit compact_text(char c) noexcept {
+    m_bytes[0] = c;
+    p_set_in_place_size(1);
+  }
   compact_text(compact_text const& other) : compact_text() { p_copy(other); }
   compact_text(compact_text&& other) noexcept : compact_text() { swap(other); }
   compact_text& operator=(compact_text const& other) {
