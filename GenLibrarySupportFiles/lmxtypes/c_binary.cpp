@@ -101,17 +101,11 @@ bool c_binary::is_valid_hex(std::string const& text) {
 }
 
 void c_binary::from_hex_digits(std::string_view text) {
-  std::size_t const size = text.size() / 2;
-  m_value.clear();
-  m_value.reserve(size);
-  char bytes[64];
-  for (std::size_t from = 0; from < size; from += sizeof bytes) {
-    std::size_t const count = std::min(sizeof bytes, size - from);
-    for (std::size_t i = 0; i != count; ++i) {
-      char const* const pair = text.data() + 2 * (from + i);
-      bytes[i] = static_cast<char>(hex_row(pair[0]).value << 4 | hex_row(pair[1]).value);
-    }
-    m_value.append(bytes, count);
+  m_value.assign(text.size() / 2, '\0');
+  char const* digit = text.data();
+  for (char& byte : m_value) {
+    byte = static_cast<char>(hex_row(digit[0]).value << 4 | hex_row(digit[1]).value);
+    digit += 2;
   }
 }
 
