@@ -170,20 +170,21 @@ bool Device::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return false;
 }
-bool Device::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Device::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_DVC_49, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_SoftwareVersion, spec_text_32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_ClientName, spec_bytes_8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_SerialNumber, spec_text_32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_StructureLabel, spec_structure_label_50, attribute);
-    case 'G': return binding::accept_attribute(reader, m_LocalizationLabel, spec_localization_label_51, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_DVC_49, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_SoftwareVersion, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(m_ClientName, spec_bytes_8, attribute);
+    case 'E': return binding::accept_attribute(m_SerialNumber, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(m_StructureLabel, spec_structure_label_50, attribute);
+    case 'G': return binding::accept_attribute(m_LocalizationLabel, spec_localization_label_51, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Device::has_required_attributes() const { return m_Id.is_set() && m_ClientName.is_set() && m_StructureLabel.is_set() && m_LocalizationLabel.is_set(); }
 lmx::elmx_error Device::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DVC", __LINE__, m_Id.is_set() && m_ClientName.is_set() && m_StructureLabel.is_set() && m_LocalizationLabel.is_set());
+  return check_required(reader, "DVC", __LINE__, has_required_attributes());
 }
 bool Device::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerDevice, true, {elem_event_map, "DVC", __LINE__}, error); }
 lmx::elmx_error Device::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -321,19 +322,20 @@ bool DeviceElement::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
-bool DeviceElement::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DeviceElement::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_DET_53, attribute);
-    case 'B': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_7, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_Number, spec_range_0_to_4095_uint16, attribute);
-    case 'F': return binding::accept_attribute(reader, m_ParentObjectId, spec_range_0_to_65534_uint16, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_DET_53, attribute);
+    case 'B': return binding::accept_attribute(m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'C': return binding::accept_attribute(m_Type, spec_one_of_1_to_7, attribute);
+    case 'D': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(m_Number, spec_range_0_to_4095_uint16, attribute);
+    case 'F': return binding::accept_attribute(m_ParentObjectId, spec_range_0_to_65534_uint16, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DeviceElement::has_required_attributes() const { return m_Id.is_set() && m_ObjectId.is_set() && m_Type.is_set() && m_Number.is_set() && m_ParentObjectId.is_set(); }
 lmx::elmx_error DeviceElement::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DET", __LINE__, m_Id.is_set() && m_ObjectId.is_set() && m_Type.is_set() && m_Number.is_set() && m_ParentObjectId.is_set());
+  return check_required(reader, "DET", __LINE__, has_required_attributes());
 }
 bool DeviceElement::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerDeviceElement, false, {elem_event_map, "DET", __LINE__}, error); }
 lmx::elmx_error DeviceElement::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -400,7 +402,7 @@ lmx::s_known_elements const DeviceObjectReference::known_elements[] = {
 };
 lmx::elmx_error DeviceObjectReference::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "DOR", __LINE__); }
 lmx::elmx_error DeviceObjectReference::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool DeviceObjectReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -409,14 +411,15 @@ bool DeviceObjectReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::el
   }
   return false;
 }
-bool DeviceObjectReference::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DeviceObjectReference::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_DeviceObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'A': return binding::accept_attribute(m_DeviceObjectId, spec_range_1_to_65534_uint16, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DeviceObjectReference::has_required_attributes() const { return m_DeviceObjectId.is_set(); }
 lmx::elmx_error DeviceObjectReference::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DOR", __LINE__, m_DeviceObjectId.is_set());
+  return check_required(reader, "DOR", __LINE__, has_required_attributes());
 }
 bool DeviceObjectReference::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DeviceObjectReference::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -465,7 +468,7 @@ lmx::s_known_elements const DeviceProcessData::known_elements[] = {
 };
 lmx::elmx_error DeviceProcessData::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "DPD", __LINE__); }
 lmx::elmx_error DeviceProcessData::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool DeviceProcessData::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -479,19 +482,20 @@ bool DeviceProcessData::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
-bool DeviceProcessData::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DeviceProcessData::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
-    case 'B': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Property, spec_range_0_to_7_uint8, attribute);
-    case 'D': return binding::accept_attribute(reader, m_TriggerMethods, spec_range_0_to_31_uint8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'A': return binding::accept_attribute(m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'B': return binding::accept_attribute(m_DDI, spec_bytes_2, attribute);
+    case 'C': return binding::accept_attribute(m_Property, spec_range_0_to_7_uint8, attribute);
+    case 'D': return binding::accept_attribute(m_TriggerMethods, spec_range_0_to_31_uint8, attribute);
+    case 'E': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DeviceProcessData::has_required_attributes() const { return m_ObjectId.is_set() && m_DDI.is_set() && m_Property.is_set() && m_TriggerMethods.is_set(); }
 lmx::elmx_error DeviceProcessData::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DPD", __LINE__, m_ObjectId.is_set() && m_DDI.is_set() && m_Property.is_set() && m_TriggerMethods.is_set());
+  return check_required(reader, "DPD", __LINE__, has_required_attributes());
 }
 bool DeviceProcessData::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DeviceProcessData::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -547,7 +551,7 @@ lmx::s_known_elements const DeviceProperty::known_elements[] = {
 };
 lmx::elmx_error DeviceProperty::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "DPT", __LINE__); }
 lmx::elmx_error DeviceProperty::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool DeviceProperty::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -560,18 +564,19 @@ bool DeviceProperty::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_erro
   }
   return false;
 }
-bool DeviceProperty::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DeviceProperty::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
-    case 'B': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Value, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'A': return binding::accept_attribute(m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'B': return binding::accept_attribute(m_DDI, spec_bytes_2, attribute);
+    case 'C': return binding::accept_attribute(m_Value, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'D': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(m_DeviceValuePresentationObjectId, spec_range_1_to_65534_uint16, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DeviceProperty::has_required_attributes() const { return m_ObjectId.is_set() && m_DDI.is_set() && m_Value.is_set(); }
 lmx::elmx_error DeviceProperty::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DPT", __LINE__, m_ObjectId.is_set() && m_DDI.is_set() && m_Value.is_set());
+  return check_required(reader, "DPT", __LINE__, has_required_attributes());
 }
 bool DeviceProperty::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DeviceProperty::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -625,7 +630,7 @@ lmx::s_known_elements const DeviceValuePresentation::known_elements[] = {
 };
 lmx::elmx_error DeviceValuePresentation::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "DVP", __LINE__); }
 lmx::elmx_error DeviceValuePresentation::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool DeviceValuePresentation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -638,18 +643,19 @@ bool DeviceValuePresentation::unmarshal_attributes(lmx::xmlReader& reader, lmx::
   }
   return false;
 }
-bool DeviceValuePresentation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DeviceValuePresentation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ObjectId, spec_range_1_to_65534_uint16, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Offset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Scale, spec_scale_factor, attribute);
-    case 'D': return binding::accept_attribute(reader, m_NumberOfDecimals, spec_range_0_to_7_uint8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_UnitDesignator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_ObjectId, spec_range_1_to_65534_uint16, attribute);
+    case 'B': return binding::accept_attribute(m_Offset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(m_Scale, spec_scale_factor, attribute);
+    case 'D': return binding::accept_attribute(m_NumberOfDecimals, spec_range_0_to_7_uint8, attribute);
+    case 'E': return binding::accept_attribute(m_UnitDesignator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DeviceValuePresentation::has_required_attributes() const { return m_ObjectId.is_set() && m_Offset.is_set() && m_Scale.is_set() && m_NumberOfDecimals.is_set(); }
 lmx::elmx_error DeviceValuePresentation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DVP", __LINE__, m_ObjectId.is_set() && m_Offset.is_set() && m_Scale.is_set() && m_NumberOfDecimals.is_set());
+  return check_required(reader, "DVP", __LINE__, has_required_attributes());
 }
 bool DeviceValuePresentation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DeviceValuePresentation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }

@@ -229,9 +229,12 @@ class ISOXML_API Device {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -410,9 +413,12 @@ class ISOXML_API DeviceElement {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -473,9 +479,12 @@ class ISOXML_API DeviceObjectReference {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -563,9 +572,12 @@ class ISOXML_API DeviceProcessData {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -651,9 +663,12 @@ class ISOXML_API DeviceProperty {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -738,9 +753,12 @@ class ISOXML_API DeviceValuePresentation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.

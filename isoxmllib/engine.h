@@ -34,8 +34,8 @@ inline constexpr bool mandatory_content_may_be_empty = false;
 struct element_shape {
   lmx::elmx_error (lmx::c_unmarshal_helper::*read_content)(char const* file, int line);
   lmx::s_known_elements const* known_elements;  ///< The tags of its children; null selects no table.
-  bool empty_allowed;
-  int line;  ///< For error records.
+  bool empty_allowed;                           ///< An empty-element tag is all it needs to have.
+  int line;                                     ///< For error records.
 };
 
 /// Forwards the framework's questions to an element.
@@ -73,15 +73,27 @@ lmx::elmx_error read_element(X& element, lmx::xmlReader& reader, std::string con
                              element_shape const& shape, void (lmx::xmlReader::*collect)(X*) = nullptr) {
   if (&name != &reader.m_name) reader.m_name = name;
   if (!reader.m_stack_guard.has_room()) return refuse_depth(reader, shape.line);
-  lmx::s_known_elements const* const known =
-      shape.known_elements != nullptr ? shape.known_elements : reader.mp_known_elements;
-  lmx::c_known_elements_selector const selector(reader, known);
-  element_helper<X> helper(element, reader);
-  helper.m_empty_allowed = shape.empty_allowed;
-  // The usual attributes first and at once; the helper goes on from the first that is unusual.
+  // The usual attributes first and at once. The helper goes on from the first that is unusual; an element
+  // that is complete with its start tag needs none.
   auto [attribute, end] = reader.plain_attributes();
-  while (attribute != end && element.accept_attribute(reader, *attribute)) ++attribute;
-  lmx::elmx_error const error = (helper.*shape.read_content)(code_file, shape.line);
+  lmx::c_untyped_validation_spec const* passed = nullptr;
+  for (; attribute != end; ++attribute) {
+    lmx::c_untyped_validation_spec const* const spec = element.accept_attribute(*attribute);
+    if (spec == nullptr) break;
+    passed = spec;
+  }
+  if (passed != nullptr) reader.take_plain_attributes(attribute, passed->m_whitespace);
+  lmx::elmx_error error = lmx::ELMX_OK;
+  bool const is_complete = shape.empty_allowed && attribute == end && element.has_required_attributes() &&
+                           reader.take_plain_empty_tag();
+  if (!is_complete) {
+    lmx::s_known_elements const* const known =
+        shape.known_elements != nullptr ? shape.known_elements : reader.mp_known_elements;
+    lmx::c_known_elements_selector const selector(reader, known);
+    element_helper<X> helper(element, reader);
+    helper.m_empty_allowed = shape.empty_allowed;
+    error = (helper.*shape.read_content)(code_file, shape.line);
+  }
   if (error == lmx::ELMX_OK && collect != nullptr) (reader.*collect)(&element);
   return error;
 }
@@ -113,17 +125,17 @@ bool read_attribute(lmx::xmlReader& reader, Field<T, V, C>& field, lmx::c_valida
   return true;
 }
 
-/// Takes an attribute that lies plain in the source's buffer and whose value is the usual one. False, with
-/// nothing changed, where `read_attribute` has to decide.
+/// Takes an attribute that lies plain in the source's buffer and whose value is the usual one. Null, with
+/// nothing changed, where `read_attribute` has to decide; else `spec`, which has a short cut.
 template <template <class, class, class> class Field, class T, class V, class C>
-bool accept_attribute(lmx::xmlReader& reader, Field<T, V, C>& field, lmx::c_validation_spec<T> const& spec,
-                      lmx::plain_attribute const& attribute) {
-  if (spec.mp_accept == nullptr || field.is_set()) return false;
+lmx::c_untyped_validation_spec const* accept_attribute(Field<T, V, C>& field,
+                                                       lmx::c_validation_spec<T> const& spec,
+                                                       lmx::plain_attribute const& attribute) {
+  if (field.is_set()) return nullptr;
   char const* const text = attribute.value();
-  if (!spec.mp_accept(field.ref_value(), {text, text + attribute.value_length})) return false;
+  if (!spec.mp_accept(field.ref_value(), {text, text + attribute.value_length})) return nullptr;
   field.mark_value_set();
-  reader.take_plain_attribute(spec.m_whitespace);
-  return true;
+  return &spec;
 }
 
 /// Reports 25 with the element's tag unless all required attributes came.

@@ -211,22 +211,23 @@ bool Field::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error)
   }
   return false;
 }
-bool Field::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Field::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_PFD_74, attribute);
-    case 'B': return binding::accept_attribute(reader, m_FieldCode, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Area, spec_range_0_to_4294967294_uint32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_GrowerIdRef, spec_id_CTR_75, attribute);
-    case 'F': return binding::accept_attribute(reader, m_FarmIdRef, spec_id_FRM_76, attribute);
-    case 'G': return binding::accept_attribute(reader, m_CropTypeIdRef, spec_id_CTP_77, attribute);
-    case 'H': return binding::accept_attribute(reader, m_CropVarietyIdRef, spec_id_CVT_78, attribute);
-    case 'I': return binding::accept_attribute(reader, m_FieldIdRef, spec_id_PFD_79, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_PFD_74, attribute);
+    case 'B': return binding::accept_attribute(m_FieldCode, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(m_Area, spec_range_0_to_4294967294_uint32, attribute);
+    case 'E': return binding::accept_attribute(m_GrowerIdRef, spec_id_CTR_75, attribute);
+    case 'F': return binding::accept_attribute(m_FarmIdRef, spec_id_FRM_76, attribute);
+    case 'G': return binding::accept_attribute(m_CropTypeIdRef, spec_id_CTP_77, attribute);
+    case 'H': return binding::accept_attribute(m_CropVarietyIdRef, spec_id_CVT_78, attribute);
+    case 'I': return binding::accept_attribute(m_FieldIdRef, spec_id_PFD_79, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Field::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set() && m_Area.is_set(); }
 lmx::elmx_error Field::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PFD", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_Area.is_set());
+  return check_required(reader, "PFD", __LINE__, has_required_attributes());
 }
 bool Field::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerField, false, {elem_event_map, "PFD", __LINE__}, error); }
 lmx::elmx_error Field::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -386,18 +387,19 @@ bool Polygon::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return false;
 }
-bool Polygon::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Polygon::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_12, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Area, spec_range_0_to_4294967294_uint32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_Id, spec_id_PLN_82, attribute);
+    case 'A': return binding::accept_attribute(m_Type, spec_one_of_1_to_12, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Area, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'E': return binding::accept_attribute(m_Id, spec_id_PLN_82, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Polygon::has_required_attributes() const { return m_Type.is_set(); }
 lmx::elmx_error Polygon::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PLN", __LINE__, m_Type.is_set());
+  return check_required(reader, "PLN", __LINE__, has_required_attributes());
 }
 bool Polygon::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerPolygon, true, {elem_event_map, "PLN", __LINE__}, error); }
 lmx::elmx_error Polygon::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -542,19 +544,20 @@ bool LineString::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return false;
 }
-bool LineString::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* LineString::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_9, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Width, spec_range_0_to_4294967294_uint32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Length, spec_range_0_to_4294967294_uint32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
-    case 'F': return binding::accept_attribute(reader, m_Id, spec_id_LSG_69, attribute);
+    case 'A': return binding::accept_attribute(m_Type, spec_one_of_1_to_9, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Width, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(m_Length, spec_range_0_to_4294967294_uint32, attribute);
+    case 'E': return binding::accept_attribute(m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'F': return binding::accept_attribute(m_Id, spec_id_LSG_69, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool LineString::has_required_attributes() const { return m_Type.is_set(); }
 lmx::elmx_error LineString::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "LSG", __LINE__, m_Type.is_set());
+  return check_required(reader, "LSG", __LINE__, has_required_attributes());
 }
 bool LineString::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerLineString, true, {elem_event_map, "LSG", __LINE__}, error); }
 lmx::elmx_error LineString::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -628,7 +631,7 @@ lmx::s_known_elements const Point::known_elements[] = {
 };
 lmx::elmx_error Point::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "PNT", __LINE__); }
 lmx::elmx_error Point::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Point::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -647,24 +650,25 @@ bool Point::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error)
   }
   return false;
 }
-bool Point::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Point::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_11, attribute);
-    case 'B': return binding::accept_attribute(reader, m_rare.get_or_create().m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_North, spec_degrees_latitude, attribute);
-    case 'D': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
-    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_Colour, spec_range_0_to_254_uint8, attribute);
-    case 'G': return binding::accept_attribute(reader, m_rare.get_or_create().m_Id, spec_id_PNT_80, attribute);
-    case 'H': return binding::accept_attribute(reader, m_rare.get_or_create().m_HorizontalAccuracy, spec_accuracy, attribute);
-    case 'I': return binding::accept_attribute(reader, m_rare.get_or_create().m_VerticalAccuracy, spec_accuracy, attribute);
-    case 'J': return binding::accept_attribute(reader, m_rare.get_or_create().m_Filename, spec_point_file_81, attribute);
-    case 'K': return binding::accept_attribute(reader, m_rare.get_or_create().m_FileLength, spec_range_0_to_4294967294_uint32, attribute);
+    case 'A': return binding::accept_attribute(m_Type, spec_one_of_1_to_11, attribute);
+    case 'B': return binding::accept_attribute(m_rare.get_or_create().m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_North, spec_degrees_latitude, attribute);
+    case 'D': return binding::accept_attribute(m_East, spec_degrees_longitude, attribute);
+    case 'E': return binding::accept_attribute(m_rare.get_or_create().m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'F': return binding::accept_attribute(m_rare.get_or_create().m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'G': return binding::accept_attribute(m_rare.get_or_create().m_Id, spec_id_PNT_80, attribute);
+    case 'H': return binding::accept_attribute(m_rare.get_or_create().m_HorizontalAccuracy, spec_accuracy, attribute);
+    case 'I': return binding::accept_attribute(m_rare.get_or_create().m_VerticalAccuracy, spec_accuracy, attribute);
+    case 'J': return binding::accept_attribute(m_rare.get_or_create().m_Filename, spec_point_file_81, attribute);
+    case 'K': return binding::accept_attribute(m_rare.get_or_create().m_FileLength, spec_range_0_to_4294967294_uint32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Point::has_required_attributes() const { return m_Type.is_set() && m_North.is_set() && m_East.is_set(); }
 lmx::elmx_error Point::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PNT", __LINE__, m_Type.is_set() && m_North.is_set() && m_East.is_set());
+  return check_required(reader, "PNT", __LINE__, has_required_attributes());
 }
 bool Point::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Point::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -802,15 +806,16 @@ bool GuidanceGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
-bool GuidanceGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* GuidanceGroup::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_GGP_64, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_GGP_64, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool GuidanceGroup::has_required_attributes() const { return m_Id.is_set(); }
 lmx::elmx_error GuidanceGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "GGP", __LINE__, m_Id.is_set());
+  return check_required(reader, "GGP", __LINE__, has_required_attributes());
 }
 bool GuidanceGroup::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerGuidanceGroup, true, {elem_event_map, "GGP", __LINE__}, error); }
 lmx::elmx_error GuidanceGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -960,28 +965,29 @@ bool GuidancePattern::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
   }
   return false;
 }
-bool GuidancePattern::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* GuidancePattern::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_GPN_65, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_5, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Options, spec_one_of_1_to_3, attribute);
-    case 'E': return binding::accept_attribute(reader, m_PropagationDirection, spec_one_of_1_to_4, attribute);
-    case 'F': return binding::accept_attribute(reader, m_Extension, spec_one_of_1_to_4, attribute);
-    case 'G': return binding::accept_attribute(reader, m_Heading, spec_degrees_heading, attribute);
-    case 'H': return binding::accept_attribute(reader, m_Radius, spec_range_0_to_4294967294_uint32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_GNSSMethod, spec_one_of_0_to_8_16_17, attribute);
-    case 'J': return binding::accept_attribute(reader, m_HorizontalAccuracy, spec_accuracy, attribute);
-    case 'K': return binding::accept_attribute(reader, m_VerticalAccuracy, spec_accuracy, attribute);
-    case 'L': return binding::accept_attribute(reader, m_BaseStationIdRef, spec_id_BSN_66, attribute);
-    case 'M': return binding::accept_attribute(reader, m_OriginalSRID, spec_text_32, attribute);
-    case 'N': return binding::accept_attribute(reader, m_NumberOfSwathsLeft, spec_range_0_to_4294967294_uint32, attribute);
-    case 'O': return binding::accept_attribute(reader, m_NumberOfSwathsRight, spec_range_0_to_4294967294_uint32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_GPN_65, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Type, spec_one_of_1_to_5, attribute);
+    case 'D': return binding::accept_attribute(m_Options, spec_one_of_1_to_3, attribute);
+    case 'E': return binding::accept_attribute(m_PropagationDirection, spec_one_of_1_to_4, attribute);
+    case 'F': return binding::accept_attribute(m_Extension, spec_one_of_1_to_4, attribute);
+    case 'G': return binding::accept_attribute(m_Heading, spec_degrees_heading, attribute);
+    case 'H': return binding::accept_attribute(m_Radius, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(m_GNSSMethod, spec_one_of_0_to_8_16_17, attribute);
+    case 'J': return binding::accept_attribute(m_HorizontalAccuracy, spec_accuracy, attribute);
+    case 'K': return binding::accept_attribute(m_VerticalAccuracy, spec_accuracy, attribute);
+    case 'L': return binding::accept_attribute(m_BaseStationIdRef, spec_id_BSN_66, attribute);
+    case 'M': return binding::accept_attribute(m_OriginalSRID, spec_text_32, attribute);
+    case 'N': return binding::accept_attribute(m_NumberOfSwathsLeft, spec_range_0_to_4294967294_uint32, attribute);
+    case 'O': return binding::accept_attribute(m_NumberOfSwathsRight, spec_range_0_to_4294967294_uint32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool GuidancePattern::has_required_attributes() const { return m_Id.is_set() && m_Type.is_set(); }
 lmx::elmx_error GuidancePattern::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "GPN", __LINE__, m_Id.is_set() && m_Type.is_set());
+  return check_required(reader, "GPN", __LINE__, has_required_attributes());
 }
 bool GuidancePattern::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerGuidancePattern, true, {elem_event_map, "GPN", __LINE__}, error); }
 lmx::elmx_error GuidancePattern::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1135,14 +1141,15 @@ bool GuidanceAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_
   }
   return false;
 }
-bool GuidanceAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* GuidanceAllocation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_GuidanceGroupIdRef, spec_id_GGP_63, attribute);
+    case 'A': return binding::accept_attribute(m_GuidanceGroupIdRef, spec_id_GGP_63, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool GuidanceAllocation::has_required_attributes() const { return m_GuidanceGroupIdRef.is_set(); }
 lmx::elmx_error GuidanceAllocation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "GAN", __LINE__, m_GuidanceGroupIdRef.is_set());
+  return check_required(reader, "GAN", __LINE__, has_required_attributes());
 }
 bool GuidanceAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerGuidanceAllocation, true, {elem_event_map, "GAN", __LINE__}, error); }
 lmx::elmx_error GuidanceAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1259,18 +1266,19 @@ bool GuidanceShift::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
-bool GuidanceShift::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* GuidanceShift::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_GuidanceGroupIdRef, spec_id_GGP_67, attribute);
-    case 'B': return binding::accept_attribute(reader, m_GuidancePatternIdRef, spec_id_GPN_68, attribute);
-    case 'C': return binding::accept_attribute(reader, m_EastShift, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_NorthShift, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_PropagationOffset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'A': return binding::accept_attribute(m_GuidanceGroupIdRef, spec_id_GGP_67, attribute);
+    case 'B': return binding::accept_attribute(m_GuidancePatternIdRef, spec_id_GPN_68, attribute);
+    case 'C': return binding::accept_attribute(m_EastShift, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'D': return binding::accept_attribute(m_NorthShift, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'E': return binding::accept_attribute(m_PropagationOffset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool GuidanceShift::has_required_attributes() const { return m_GuidanceGroupIdRef.is_set() && m_GuidancePatternIdRef.is_set(); }
 lmx::elmx_error GuidanceShift::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "GST", __LINE__, m_GuidanceGroupIdRef.is_set() && m_GuidancePatternIdRef.is_set());
+  return check_required(reader, "GST", __LINE__, has_required_attributes());
 }
 bool GuidanceShift::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerGuidanceShift, {elem_event_map, "GST", __LINE__}, error); }
 lmx::elmx_error GuidanceShift::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1329,7 +1337,7 @@ lmx::s_known_elements const BaseStation::known_elements[] = {
 };
 lmx::elmx_error BaseStation::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "BSN", __LINE__); }
 lmx::elmx_error BaseStation::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool BaseStation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1342,18 +1350,19 @@ bool BaseStation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* 
   }
   return false;
 }
-bool BaseStation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* BaseStation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_BSN_14, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_North, spec_degrees_latitude, attribute);
-    case 'D': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
-    case 'E': return binding::accept_attribute(reader, m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_BSN_14, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_North, spec_degrees_latitude, attribute);
+    case 'D': return binding::accept_attribute(m_East, spec_degrees_longitude, attribute);
+    case 'E': return binding::accept_attribute(m_Altitude, spec_range_minus_2147483647_to_2147483647_int32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool BaseStation::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set() && m_North.is_set() && m_East.is_set() && m_Altitude.is_set(); }
 lmx::elmx_error BaseStation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "BSN", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_North.is_set() && m_East.is_set() && m_Altitude.is_set());
+  return check_required(reader, "BSN", __LINE__, has_required_attributes());
 }
 bool BaseStation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error BaseStation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }

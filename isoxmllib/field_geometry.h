@@ -357,9 +357,12 @@ class ISOXML_API Field {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -579,9 +582,12 @@ class ISOXML_API Polygon {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -763,9 +769,12 @@ class ISOXML_API LineString {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -894,9 +903,12 @@ class ISOXML_API Point {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1065,9 +1077,12 @@ class ISOXML_API GuidanceGroup {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1321,9 +1336,12 @@ class ISOXML_API GuidancePattern {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1483,9 +1501,12 @@ class ISOXML_API GuidanceAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1633,9 +1654,12 @@ class ISOXML_API GuidanceShift {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1719,9 +1743,12 @@ class ISOXML_API BaseStation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.

@@ -56,7 +56,7 @@ lmx::s_known_elements const Grower::known_elements[] = {
 };
 lmx::elmx_error Grower::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "CTR", __LINE__); }
 lmx::elmx_error Grower::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::addNewGrower);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::addNewGrower);
 }
 bool Grower::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -82,26 +82,27 @@ bool Grower::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return false;
 }
-bool Grower::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Grower::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CTR_36, attribute);
-    case 'B': return binding::accept_attribute(reader, m_LastName, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_FirstName, spec_text_32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Street, spec_text_32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_POBox, spec_text_32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_PostalCode, spec_text_10, attribute);
-    case 'G': return binding::accept_attribute(reader, m_City, spec_text_32, attribute);
-    case 'H': return binding::accept_attribute(reader, m_State, spec_text_32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_Country, spec_text_32, attribute);
-    case 'J': return binding::accept_attribute(reader, m_Phone, spec_text_20, attribute);
-    case 'K': return binding::accept_attribute(reader, m_Mobile, spec_text_20, attribute);
-    case 'L': return binding::accept_attribute(reader, m_Fax, spec_text_20, attribute);
-    case 'M': return binding::accept_attribute(reader, m_Email, spec_text_64, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CTR_36, attribute);
+    case 'B': return binding::accept_attribute(m_LastName, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_FirstName, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(m_Street, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(m_POBox, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(m_PostalCode, spec_text_10, attribute);
+    case 'G': return binding::accept_attribute(m_City, spec_text_32, attribute);
+    case 'H': return binding::accept_attribute(m_State, spec_text_32, attribute);
+    case 'I': return binding::accept_attribute(m_Country, spec_text_32, attribute);
+    case 'J': return binding::accept_attribute(m_Phone, spec_text_20, attribute);
+    case 'K': return binding::accept_attribute(m_Mobile, spec_text_20, attribute);
+    case 'L': return binding::accept_attribute(m_Fax, spec_text_20, attribute);
+    case 'M': return binding::accept_attribute(m_Email, spec_text_64, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Grower::has_required_attributes() const { return m_Id.is_set() && m_LastName.is_set(); }
 lmx::elmx_error Grower::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CTR", __LINE__, m_Id.is_set() && m_LastName.is_set());
+  return check_required(reader, "CTR", __LINE__, has_required_attributes());
 }
 bool Grower::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Grower::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -180,7 +181,7 @@ lmx::s_known_elements const Farm::known_elements[] = {
 };
 lmx::elmx_error Farm::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "FRM", __LINE__); }
 lmx::elmx_error Farm::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::addNewFarm);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::addNewFarm);
 }
 bool Farm::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -206,22 +207,23 @@ bool Farm::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
-bool Farm::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Farm::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_FRM_58, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Street, spec_text_32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_POBox, spec_text_32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_PostalCode, spec_text_10, attribute);
-    case 'F': return binding::accept_attribute(reader, m_City, spec_text_32, attribute);
-    case 'G': return binding::accept_attribute(reader, m_State, spec_text_32, attribute);
-    case 'H': return binding::accept_attribute(reader, m_Country, spec_text_32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_GrowerIdRef, spec_id_CTR_59, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_FRM_58, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Street, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(m_POBox, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(m_PostalCode, spec_text_10, attribute);
+    case 'F': return binding::accept_attribute(m_City, spec_text_32, attribute);
+    case 'G': return binding::accept_attribute(m_State, spec_text_32, attribute);
+    case 'H': return binding::accept_attribute(m_Country, spec_text_32, attribute);
+    case 'I': return binding::accept_attribute(m_GrowerIdRef, spec_id_CTR_59, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Farm::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error Farm::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "FRM", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "FRM", __LINE__, has_required_attributes());
 }
 bool Farm::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Farm::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -295,7 +297,7 @@ lmx::s_known_elements const Worker::known_elements[] = {
 };
 lmx::elmx_error Worker::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "WKR", __LINE__); }
 lmx::elmx_error Worker::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Worker::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -316,26 +318,27 @@ bool Worker::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error
   }
   return false;
 }
-bool Worker::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Worker::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_WKR_106, attribute);
-    case 'B': return binding::accept_attribute(reader, m_LastName, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_FirstName, spec_text_32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Street, spec_text_32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_POBox, spec_text_32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_PostalCode, spec_text_10, attribute);
-    case 'G': return binding::accept_attribute(reader, m_City, spec_text_32, attribute);
-    case 'H': return binding::accept_attribute(reader, m_State, spec_text_32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_Country, spec_text_32, attribute);
-    case 'J': return binding::accept_attribute(reader, m_Phone, spec_text_20, attribute);
-    case 'K': return binding::accept_attribute(reader, m_Mobile, spec_text_20, attribute);
-    case 'L': return binding::accept_attribute(reader, m_LicenseNumber, spec_text_32, attribute);
-    case 'M': return binding::accept_attribute(reader, m_Email, spec_text_64, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_WKR_106, attribute);
+    case 'B': return binding::accept_attribute(m_LastName, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_FirstName, spec_text_32, attribute);
+    case 'D': return binding::accept_attribute(m_Street, spec_text_32, attribute);
+    case 'E': return binding::accept_attribute(m_POBox, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(m_PostalCode, spec_text_10, attribute);
+    case 'G': return binding::accept_attribute(m_City, spec_text_32, attribute);
+    case 'H': return binding::accept_attribute(m_State, spec_text_32, attribute);
+    case 'I': return binding::accept_attribute(m_Country, spec_text_32, attribute);
+    case 'J': return binding::accept_attribute(m_Phone, spec_text_20, attribute);
+    case 'K': return binding::accept_attribute(m_Mobile, spec_text_20, attribute);
+    case 'L': return binding::accept_attribute(m_LicenseNumber, spec_text_32, attribute);
+    case 'M': return binding::accept_attribute(m_Email, spec_text_64, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Worker::has_required_attributes() const { return m_Id.is_set() && m_LastName.is_set(); }
 lmx::elmx_error Worker::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "WKR", __LINE__, m_Id.is_set() && m_LastName.is_set());
+  return check_required(reader, "WKR", __LINE__, has_required_attributes());
 }
 bool Worker::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Worker::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -480,23 +483,24 @@ bool Product::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return false;
 }
-bool Product::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Product::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_PDT_87, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_ProductGroupIdRef, spec_id_PGP_88, attribute);
-    case 'D': return binding::accept_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_89, attribute);
-    case 'E': return binding::accept_attribute(reader, m_QuantityDDI, spec_bytes_2, attribute);
-    case 'F': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_3, attribute);
-    case 'G': return binding::accept_attribute(reader, m_MixtureRecipeQuantity, spec_range_0_to_2147483647_uint32, attribute);
-    case 'H': return binding::accept_attribute(reader, m_DensityMassPerVolume, spec_range_0_to_2147483647_uint32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_DensityMassPerCount, spec_range_0_to_2147483647_uint32, attribute);
-    case 'J': return binding::accept_attribute(reader, m_DensityVolumePerCount, spec_range_0_to_2147483647_uint32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_PDT_87, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_ProductGroupIdRef, spec_id_PGP_88, attribute);
+    case 'D': return binding::accept_attribute(m_ValuePresentationIdRef, spec_id_VPN_89, attribute);
+    case 'E': return binding::accept_attribute(m_QuantityDDI, spec_bytes_2, attribute);
+    case 'F': return binding::accept_attribute(m_Type, spec_one_of_1_to_3, attribute);
+    case 'G': return binding::accept_attribute(m_MixtureRecipeQuantity, spec_range_0_to_2147483647_uint32, attribute);
+    case 'H': return binding::accept_attribute(m_DensityMassPerVolume, spec_range_0_to_2147483647_uint32, attribute);
+    case 'I': return binding::accept_attribute(m_DensityMassPerCount, spec_range_0_to_2147483647_uint32, attribute);
+    case 'J': return binding::accept_attribute(m_DensityVolumePerCount, spec_range_0_to_2147483647_uint32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Product::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error Product::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PDT", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "PDT", __LINE__, has_required_attributes());
 }
 bool Product::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerProduct, false, {elem_event_map, "PDT", __LINE__}, error); }
 lmx::elmx_error Product::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -570,7 +574,7 @@ lmx::s_known_elements const ProductGroup::known_elements[] = {
 };
 lmx::elmx_error ProductGroup::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "PGP", __LINE__); }
 lmx::elmx_error ProductGroup::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::addNewProductGroup);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::addNewProductGroup);
 }
 bool ProductGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -581,16 +585,17 @@ bool ProductGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool ProductGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ProductGroup::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_PGP_95, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_PGP_95, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Type, spec_one_of_1_2, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ProductGroup::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error ProductGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PGP", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "PGP", __LINE__, has_required_attributes());
 }
 bool ProductGroup::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error ProductGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -641,7 +646,7 @@ lmx::s_known_elements const ProductRelation::known_elements[] = {
 };
 lmx::elmx_error ProductRelation::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "PRN", __LINE__); }
 lmx::elmx_error ProductRelation::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool ProductRelation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -652,15 +657,16 @@ bool ProductRelation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
   }
   return false;
 }
-bool ProductRelation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ProductRelation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_96, attribute);
-    case 'B': return binding::accept_attribute(reader, m_QuantityValue, spec_range_0_to_2147483647_uint32, attribute);
+    case 'A': return binding::accept_attribute(m_ProductIdRef, spec_id_PDT_96, attribute);
+    case 'B': return binding::accept_attribute(m_QuantityValue, spec_range_0_to_2147483647_uint32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ProductRelation::has_required_attributes() const { return m_ProductIdRef.is_set() && m_QuantityValue.is_set(); }
 lmx::elmx_error ProductRelation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PRN", __LINE__, m_ProductIdRef.is_set() && m_QuantityValue.is_set());
+  return check_required(reader, "PRN", __LINE__, has_required_attributes());
 }
 bool ProductRelation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error ProductRelation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -712,7 +718,7 @@ lmx::s_known_elements const ValuePresentation::known_elements[] = {
 };
 lmx::elmx_error ValuePresentation::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "VPN", __LINE__); }
 lmx::elmx_error ValuePresentation::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::addNewValuePre);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::addNewValuePre);
 }
 bool ValuePresentation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -726,19 +732,20 @@ bool ValuePresentation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
-bool ValuePresentation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ValuePresentation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_VPN_104, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Offset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Scale, spec_scale_factor, attribute);
-    case 'D': return binding::accept_attribute(reader, m_NumberOfDecimals, spec_range_0_to_7_uint8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_UnitDesignator, spec_text_32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_ColourLegendIdRef, spec_id_CLD_105, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_VPN_104, attribute);
+    case 'B': return binding::accept_attribute(m_Offset, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(m_Scale, spec_scale_factor, attribute);
+    case 'D': return binding::accept_attribute(m_NumberOfDecimals, spec_range_0_to_7_uint8, attribute);
+    case 'E': return binding::accept_attribute(m_UnitDesignator, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(m_ColourLegendIdRef, spec_id_CLD_105, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ValuePresentation::has_required_attributes() const { return m_Id.is_set() && m_Offset.is_set() && m_Scale.is_set() && m_NumberOfDecimals.is_set(); }
 lmx::elmx_error ValuePresentation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "VPN", __LINE__, m_Id.is_set() && m_Offset.is_set() && m_Scale.is_set() && m_NumberOfDecimals.is_set());
+  return check_required(reader, "VPN", __LINE__, has_required_attributes());
 }
 bool ValuePresentation::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error ValuePresentation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -856,16 +863,17 @@ bool CropType::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
-bool CropType::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CropType::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CTP_31, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_ProductGroupIdRef, spec_id_PGP_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CTP_31, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_ProductGroupIdRef, spec_id_PGP_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CropType::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error CropType::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CTP", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "CTP", __LINE__, has_required_attributes());
 }
 bool CropType::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerCropType, false, {elem_event_map, "CTP", __LINE__}, error); }
 lmx::elmx_error CropType::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -926,7 +934,7 @@ lmx::s_known_elements const CropVariety::known_elements[] = {
 };
 lmx::elmx_error CropVariety::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "CVT", __LINE__); }
 lmx::elmx_error CropVariety::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool CropVariety::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -937,16 +945,17 @@ bool CropVariety::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* 
   }
   return false;
 }
-bool CropVariety::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CropVariety::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CVT_33, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_34, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CVT_33, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_ProductIdRef, spec_id_PDT_34, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CropVariety::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error CropVariety::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CVT", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "CVT", __LINE__, has_required_attributes());
 }
 bool CropVariety::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error CropVariety::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1057,15 +1066,16 @@ bool CulturalPractice::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   }
   return false;
 }
-bool CulturalPractice::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CulturalPractice::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CPC_35, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CPC_35, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CulturalPractice::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error CulturalPractice::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CPC", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "CPC", __LINE__, has_required_attributes());
 }
 bool CulturalPractice::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerCulturalPractice, false, {elem_event_map, "CPC", __LINE__}, error); }
 lmx::elmx_error CulturalPractice::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1124,7 +1134,7 @@ lmx::s_known_elements const OperationTechnique::known_elements[] = {
 };
 lmx::elmx_error OperationTechnique::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "OTQ", __LINE__); }
 lmx::elmx_error OperationTechnique::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool OperationTechnique::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1134,15 +1144,16 @@ bool OperationTechnique::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_
   }
   return false;
 }
-bool OperationTechnique::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* OperationTechnique::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_OTQ_70, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_OTQ_70, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool OperationTechnique::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error OperationTechnique::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "OTQ", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "OTQ", __LINE__, has_required_attributes());
 }
 bool OperationTechnique::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error OperationTechnique::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1188,7 +1199,7 @@ lmx::s_known_elements const OperationTechniqueReference::known_elements[] = {
 };
 lmx::elmx_error OperationTechniqueReference::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "OTR", __LINE__); }
 lmx::elmx_error OperationTechniqueReference::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool OperationTechniqueReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1197,14 +1208,15 @@ bool OperationTechniqueReference::unmarshal_attributes(lmx::xmlReader& reader, l
   }
   return false;
 }
-bool OperationTechniqueReference::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* OperationTechniqueReference::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_OperationTechniqueIdRef, spec_id_OTQ_71, attribute);
+    case 'A': return binding::accept_attribute(m_OperationTechniqueIdRef, spec_id_OTQ_71, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool OperationTechniqueReference::has_required_attributes() const { return m_OperationTechniqueIdRef.is_set(); }
 lmx::elmx_error OperationTechniqueReference::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "OTR", __LINE__, m_OperationTechniqueIdRef.is_set());
+  return check_required(reader, "OTR", __LINE__, has_required_attributes());
 }
 bool OperationTechniqueReference::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error OperationTechniqueReference::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1316,17 +1328,18 @@ bool CodedComment::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool CodedComment::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CodedComment::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CCT_17, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Scope, spec_one_of_1_to_3, attribute);
-    case 'D': return binding::accept_attribute(reader, m_CodedCommentGroupIdRef, spec_id_CCG_18, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CCT_17, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Scope, spec_one_of_1_to_3, attribute);
+    case 'D': return binding::accept_attribute(m_CodedCommentGroupIdRef, spec_id_CCG_18, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CodedComment::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set() && m_Scope.is_set(); }
 lmx::elmx_error CodedComment::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CCT", __LINE__, m_Id.is_set() && m_Designator.is_set() && m_Scope.is_set());
+  return check_required(reader, "CCT", __LINE__, has_required_attributes());
 }
 bool CodedComment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerCodedComment, false, {elem_event_map, "CCT", __LINE__}, error); }
 lmx::elmx_error CodedComment::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1390,7 +1403,7 @@ lmx::s_known_elements const CoddedCommentGroup::known_elements[] = {
 };
 lmx::elmx_error CoddedCommentGroup::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "CCG", __LINE__); }
 lmx::elmx_error CoddedCommentGroup::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool CoddedCommentGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1400,15 +1413,16 @@ bool CoddedCommentGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_
   }
   return false;
 }
-bool CoddedCommentGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CoddedCommentGroup::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CCG_19, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CCG_19, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CoddedCommentGroup::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error CoddedCommentGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CCG", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "CCG", __LINE__, has_required_attributes());
 }
 bool CoddedCommentGroup::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error CoddedCommentGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1455,7 +1469,7 @@ lmx::s_known_elements const CodedCommentListValue::known_elements[] = {
 };
 lmx::elmx_error CodedCommentListValue::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "CCL", __LINE__); }
 lmx::elmx_error CodedCommentListValue::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool CodedCommentListValue::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1465,15 +1479,16 @@ bool CodedCommentListValue::unmarshal_attributes(lmx::xmlReader& reader, lmx::el
   }
   return false;
 }
-bool CodedCommentListValue::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CodedCommentListValue::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CCL_20, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CCL_20, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CodedCommentListValue::has_required_attributes() const { return m_Id.is_set() && m_Designator.is_set(); }
 lmx::elmx_error CodedCommentListValue::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CCL", __LINE__, m_Id.is_set() && m_Designator.is_set());
+  return check_required(reader, "CCL", __LINE__, has_required_attributes());
 }
 bool CodedCommentListValue::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error CodedCommentListValue::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1583,15 +1598,16 @@ bool ColourLegend::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool ColourLegend::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ColourLegend::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_CLD_21, attribute);
-    case 'B': return binding::accept_attribute(reader, m_DefaultColour, spec_range_0_to_254_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_CLD_21, attribute);
+    case 'B': return binding::accept_attribute(m_DefaultColour, spec_range_0_to_254_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ColourLegend::has_required_attributes() const { return m_Id.is_set(); }
 lmx::elmx_error ColourLegend::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CLD", __LINE__, m_Id.is_set());
+  return check_required(reader, "CLD", __LINE__, has_required_attributes());
 }
 bool ColourLegend::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerColourLegend, true, {elem_event_map, "CLD", __LINE__}, error); }
 lmx::elmx_error ColourLegend::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1651,7 +1667,7 @@ lmx::s_known_elements const ColourRange::known_elements[] = {
 };
 lmx::elmx_error ColourRange::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "CRG", __LINE__); }
 lmx::elmx_error ColourRange::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool ColourRange::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1662,16 +1678,17 @@ bool ColourRange::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* 
   }
   return false;
 }
-bool ColourRange::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ColourRange::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_MinimumValue, spec_range_minus_2147483647_to_2147483647_int32, attribute);
-    case 'B': return binding::accept_attribute(reader, m_MaximumValue, spec_range_minus_2147483647_to_2147483647_int32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_MinimumValue, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'B': return binding::accept_attribute(m_MaximumValue, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(m_Colour, spec_range_0_to_254_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ColourRange::has_required_attributes() const { return m_MinimumValue.is_set() && m_MaximumValue.is_set() && m_Colour.is_set(); }
 lmx::elmx_error ColourRange::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CRG", __LINE__, m_MinimumValue.is_set() && m_MaximumValue.is_set() && m_Colour.is_set());
+  return check_required(reader, "CRG", __LINE__, has_required_attributes());
 }
 bool ColourRange::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error ColourRange::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }

@@ -158,9 +158,12 @@ class ISOXML_API Grower {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -340,9 +343,12 @@ class ISOXML_API Farm {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -486,9 +492,12 @@ class ISOXML_API Worker {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -727,9 +736,12 @@ class ISOXML_API Product {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -814,9 +826,12 @@ class ISOXML_API ProductGroup {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -887,9 +902,12 @@ class ISOXML_API ProductRelation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -980,9 +998,12 @@ class ISOXML_API ValuePresentation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1135,9 +1156,12 @@ class ISOXML_API CropType {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1208,9 +1232,12 @@ class ISOXML_API CropVariety {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1354,9 +1381,12 @@ class ISOXML_API CulturalPractice {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1419,9 +1449,12 @@ class ISOXML_API OperationTechnique {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1477,9 +1510,12 @@ class ISOXML_API OperationTechniqueReference {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1639,9 +1675,12 @@ class ISOXML_API CodedComment {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1706,9 +1745,12 @@ class ISOXML_API CoddedCommentGroup {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1771,9 +1813,12 @@ class ISOXML_API CodedCommentListValue {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1916,9 +1961,12 @@ class ISOXML_API ColourLegend {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1987,9 +2035,12 @@ class ISOXML_API ColourRange {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.

@@ -43,7 +43,8 @@ lmx::elmx_error P917Questions::unmarshal(lmx::xmlReader& reader, std::string con
   return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_complex_content, known_elements, true, __LINE__});
 }
 bool P917Questions::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { return false; }
-bool P917Questions::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* P917Questions::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool P917Questions::has_required_attributes() const { return true; }
 lmx::elmx_error P917Questions::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool P917Questions::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_list(reader, mP917Question, elem_P917Question, {elem_event_map, "P917_Questions", __LINE__}, error); }
 lmx::elmx_error P917Questions::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -117,9 +118,10 @@ bool P917Question::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool P917Question::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* P917Question::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool P917Question::has_required_attributes() const { return m_Uuid.is_set() && m_ReplyType.is_set(); }
 lmx::elmx_error P917Question::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "P917_Question", __LINE__, m_Uuid.is_set() && m_ReplyType.is_set());
+  return check_required(reader, "P917_Question", __LINE__, has_required_attributes());
 }
 bool P917Question::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(elem_event_map, lmx::EXAE_ELEMENT);
@@ -177,7 +179,8 @@ lmx::elmx_error P917Comment::unmarshal(lmx::xmlReader& reader, std::string const
   return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_simple_content, nullptr, false, __LINE__});
 }
 bool P917Comment::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { return false; }
-bool P917Comment::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* P917Comment::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool P917Comment::has_required_attributes() const { return true; }
 lmx::elmx_error P917Comment::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool P917Comment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_text(reader, m_P917Comment, spec_any_text, __LINE__, error); }
 lmx::elmx_error P917Comment::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }

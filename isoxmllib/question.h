@@ -59,9 +59,12 @@ class ISOXML_API P917Questions {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -152,9 +155,12 @@ class ISOXML_API P917Question {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -214,9 +220,12 @@ class ISOXML_API P917Comment {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.

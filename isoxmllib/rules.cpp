@@ -5,6 +5,8 @@
 
 namespace binding {
 
+namespace words = lmx::words;
+
 namespace {
 
 std::size_t size_of(lmx::plain_text_view text) { return static_cast<std::size_t>(text.end - text.begin); }
@@ -88,39 +90,37 @@ bool scan_integer(lmx::plain_text_view text, std::int64_t* value) {
   if (*p == '0' && (is_negative || text.end - p > 1)) return false;
   std::int64_t number = 0;
   for (; p != text.end; ++p) {
-    if (!lmx::is_digit(*p)) return false;
-    number = number * 10 + (*p - '0');
+    unsigned const digit = digit_at(p);
+    if (digit > 9) return false;
+    number = number * 10 + digit;
   }
   *value = is_negative ? -number : number;
   return true;
 }
 
-bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range) {
+bool is_decimal(lmx::plain_text_view text, whole_parts const& range) {
   constexpr unsigned too_great = 100000000;  // one digit more still fits into the number
-  char const* p = text.begin;
   char const* const end = text.end;
-  bool const is_negative = p != end && *p == '-';
-  if (is_negative) ++p;
-  char const* const whole_begin = p;
+  bool const is_negative = text.begin != end && *text.begin == '-';
+  char const* const digits = text.begin + (is_negative ? 1 : 0);
+  char const* p = digits;
   unsigned whole = 0;
   for (; p != end; ++p) {
-    unsigned const digit = static_cast<unsigned char>(*p) - unsigned{'0'};
+    unsigned const digit = digit_at(p);
     if (digit > 9) break;
     if (whole >= too_great) return false;
     whole = whole * 10 + digit;
   }
-  if (p == whole_begin || (*whole_begin == '0' && p - whole_begin > 1)) return false;
-  if (is_negative ? whole >= range.negative_below : whole < range.least || whole >= range.below) return false;
-  if (p != end) {
-    if (*p != '.' || ++p == end) return false;
-    for (; end - p >= 8; p += 8) {
-      if (!lmx::words::are_digits(lmx::words::load(p))) return false;
-    }
-    for (; p != end; ++p) {
-      if (static_cast<unsigned char>(*p) - unsigned{'0'} > 9) return false;
-    }
+  if (p == digits || (*digits == '0' && p - digits > 1)) return false;
+  if (!range.hold(is_negative, whole)) return false;
+  if (p == end) return true;
+  if (*p != '.' || ++p == end) return false;
+  for (; end - p >= 8; p += 8) {
+    if (!words::are_digits(words::load(p))) return false;
   }
-  value.set_canonical(text.begin, end);
+  for (; p != end; ++p) {
+    if (digit_at(p) > 9) return false;
+  }
   return true;
 }
 
@@ -142,8 +142,8 @@ bool accept_date_time(lmx::c_datetime& value, lmx::plain_text_view text) {
   if (size_of(text) < shape_size) return false;
   char const* p = text.begin;
   for (std::size_t const at : {std::size_t{0}, std::size_t{8}, shape_size - 8}) {
-    using lmx::words::load;
-    if (!lmx::words::has_shape(load(p + at), load(shape + at), load(fixed + at))) return false;
+    using words::load;
+    if (!words::has_shape(load(p + at), load(shape + at), load(fixed + at))) return false;
   }
   auto const number_at = [&text](std::size_t at) {
     return static_cast<unsigned>(text.begin[at] - '0') * 10 + static_cast<unsigned>(text.begin[at + 1] - '0');

@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "GenLibrarySupportFiles/lmxinternals/words.h"
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_big_int.h"
 #include "GenLibrarySupportFiles/lmxtypes/c_binary.h"
@@ -165,9 +166,48 @@ struct whole_parts {
   unsigned least;           ///< Of numbers without a sign.
   unsigned below;           ///< The same, past the highest.
   unsigned negative_below;  ///< Of numbers with a "-", past the highest.
+
+  bool hold(bool is_negative, unsigned whole) const {
+    return is_negative ? whole < negative_below : whole >= least && whole < below;
+  }
 };
 
-bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range);
+inline unsigned digit_at(char const* p) { return static_cast<unsigned char>(*p) - unsigned{'0'}; }
+
+/// A usual coordinate in the range: one to three whole digits, a point and decimals, at most 15 bytes. False
+/// for any other decimal.
+inline bool is_coordinate(lmx::plain_text_view text, whole_parts const& range) {
+  constexpr std::size_t word = lmx::words::word_size;
+  constexpr std::size_t most_bytes = 15;
+  constexpr unsigned most_whole_digits = 3;
+  bool const is_negative = text.begin != text.end && *text.begin == '-';
+  char const* const digits = text.begin + (is_negative ? 1 : 0);
+  std::size_t const size = static_cast<std::size_t>(text.end - digits);
+  if (size < word || size > most_bytes) return false;
+  // A bit for each of the first eight bytes, then for each of the last: some may have two.
+  unsigned const others = lmx::words::no_digits(digits, text.end - word);
+  unsigned const first_others = others & 0xFF;
+  if (first_others == 0 || (first_others & (first_others - 1)) != 0) return false;
+  unsigned const point = static_cast<unsigned>(__builtin_ctz(first_others));
+  if (point == 0 || point > most_whole_digits || digits[point] != '.') return false;
+  if (others >> (3 * word - size) != 0) return false;  // among those with one bit, behind the first eight
+  unsigned whole = digit_at(digits);
+  if (point > 1) {
+    if (whole == 0) return false;
+    whole = whole * 10 + digit_at(digits + 1);
+    if (point > 2) whole = whole * 10 + digit_at(digits + 2);
+  }
+  return range.hold(is_negative, whole);
+}
+
+/// The same for a decimal of any length, without "+" and leading zeros.
+bool is_decimal(lmx::plain_text_view text, whole_parts const& range);
+
+inline bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range) {
+  if (!is_coordinate(text, range) && !is_decimal(text, range)) return false;
+  value.set_canonical(text.begin, text.end);
+  return true;
+}
 
 bool accept_bytes(lmx::c_binary& value, lmx::plain_text_view text, std::size_t minimum, std::size_t maximum);
 

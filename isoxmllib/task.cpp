@@ -341,23 +341,24 @@ bool Task::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
-bool Task::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Task::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_TSK_98, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_CustomerIdRef, spec_id_CTR_99, attribute);
-    case 'D': return binding::accept_attribute(reader, m_FarmIdRef, spec_id_FRM_100, attribute);
-    case 'E': return binding::accept_attribute(reader, m_FieldIdRef, spec_id_PFD_101, attribute);
-    case 'F': return binding::accept_attribute(reader, m_ResponsibleWorkerIdRef, spec_id_WKR_102, attribute);
-    case 'G': return binding::accept_attribute(reader, m_Status, spec_one_of_1_to_6, attribute);
-    case 'H': return binding::accept_attribute(reader, m_DefaultTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
-    case 'I': return binding::accept_attribute(reader, m_PositionLostTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
-    case 'J': return binding::accept_attribute(reader, m_OutOfFieldTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_TSK_98, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_CustomerIdRef, spec_id_CTR_99, attribute);
+    case 'D': return binding::accept_attribute(m_FarmIdRef, spec_id_FRM_100, attribute);
+    case 'E': return binding::accept_attribute(m_FieldIdRef, spec_id_PFD_101, attribute);
+    case 'F': return binding::accept_attribute(m_ResponsibleWorkerIdRef, spec_id_WKR_102, attribute);
+    case 'G': return binding::accept_attribute(m_Status, spec_one_of_1_to_6, attribute);
+    case 'H': return binding::accept_attribute(m_DefaultTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+    case 'I': return binding::accept_attribute(m_PositionLostTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+    case 'J': return binding::accept_attribute(m_OutOfFieldTreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Task::has_required_attributes() const { return m_Id.is_set() && m_Status.is_set(); }
 lmx::elmx_error Task::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "TSK", __LINE__, m_Id.is_set() && m_Status.is_set());
+  return check_required(reader, "TSK", __LINE__, has_required_attributes());
 }
 bool Task::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTask, false, {elem_event_map, "TSK", __LINE__}, error); }
 lmx::elmx_error Task::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -511,16 +512,17 @@ bool TreatmentZone::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error
   }
   return false;
 }
-bool TreatmentZone::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* TreatmentZone::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Code, spec_range_0_to_254_uint8, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Colour, spec_range_0_to_254_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_Code, spec_range_0_to_254_uint8, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
+    case 'C': return binding::accept_attribute(m_Colour, spec_range_0_to_254_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool TreatmentZone::has_required_attributes() const { return m_Code.is_set(); }
 lmx::elmx_error TreatmentZone::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "TZN", __LINE__, m_Code.is_set());
+  return check_required(reader, "TZN", __LINE__, has_required_attributes());
 }
 bool TreatmentZone::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTreatmentZone, false, {elem_event_map, "TZN", __LINE__}, error); }
 lmx::elmx_error TreatmentZone::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -662,20 +664,21 @@ bool ProcessDataVariable::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx
   }
   return false;
 }
-bool ProcessDataVariable::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ProcessDataVariable::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Value, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_83, attribute);
-    case 'D': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_84, attribute);
-    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_ValuePresentationIdRef, spec_id_VPN_85, attribute);
-    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'G': return binding::accept_attribute(reader, m_rare.get_or_create().m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'A': return binding::accept_attribute(m_DDI, spec_bytes_2, attribute);
+    case 'B': return binding::accept_attribute(m_Value, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(m_ProductIdRef, spec_id_PDT_83, attribute);
+    case 'D': return binding::accept_attribute(m_DeviceElementIdRef, spec_id_DET_84, attribute);
+    case 'E': return binding::accept_attribute(m_rare.get_or_create().m_ValuePresentationIdRef, spec_id_VPN_85, attribute);
+    case 'F': return binding::accept_attribute(m_rare.get_or_create().m_ActualCulturalPracticeValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'G': return binding::accept_attribute(m_rare.get_or_create().m_ElementTypeInstanceValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ProcessDataVariable::has_required_attributes() const { return m_DDI.is_set() && m_Value.is_set(); }
 lmx::elmx_error ProcessDataVariable::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PDV", __LINE__, m_DDI.is_set() && m_Value.is_set());
+  return check_required(reader, "PDV", __LINE__, has_required_attributes());
 }
 bool ProcessDataVariable::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerProcessDataVariable, false, {elem_event_map, "PDV", __LINE__}, error); }
 lmx::elmx_error ProcessDataVariable::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -755,7 +758,7 @@ lmx::s_known_elements const Grid::known_elements[] = {
 };
 lmx::elmx_error Grid::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "GRD", __LINE__); }
 lmx::elmx_error Grid::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Grid::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -773,21 +776,22 @@ bool Grid::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
-bool Grid::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Grid::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_MinimumNorthPosition, spec_degrees_latitude, attribute);
-    case 'B': return binding::accept_attribute(reader, m_MinimumEastPosition, spec_degrees_longitude, attribute);
-    case 'E': return binding::accept_attribute(reader, m_MaximumColumn, spec_range_0_to_4294967295_uint32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_MaximumRow, spec_range_0_to_4294967295_uint32, attribute);
-    case 'G': return binding::accept_attribute(reader, m_Filename, spec_file_GRD_62, attribute);
-    case 'H': return binding::accept_attribute(reader, m_Filelength, spec_range_0_to_4294967294_uint32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2, attribute);
-    case 'J': return binding::accept_attribute(reader, m_TreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_MinimumNorthPosition, spec_degrees_latitude, attribute);
+    case 'B': return binding::accept_attribute(m_MinimumEastPosition, spec_degrees_longitude, attribute);
+    case 'E': return binding::accept_attribute(m_MaximumColumn, spec_range_0_to_4294967295_uint32, attribute);
+    case 'F': return binding::accept_attribute(m_MaximumRow, spec_range_0_to_4294967295_uint32, attribute);
+    case 'G': return binding::accept_attribute(m_Filename, spec_file_GRD_62, attribute);
+    case 'H': return binding::accept_attribute(m_Filelength, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(m_Type, spec_one_of_1_2, attribute);
+    case 'J': return binding::accept_attribute(m_TreatmentZoneCode, spec_range_0_to_254_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Grid::has_required_attributes() const { return m_MinimumNorthPosition.is_set() && m_MinimumEastPosition.is_set() && m_CellNorthSize.is_set() && m_CellEastSize.is_set() && m_MaximumColumn.is_set() && m_MaximumRow.is_set() && m_Filename.is_set() && m_Type.is_set(); }
 lmx::elmx_error Grid::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "GRD", __LINE__, m_MinimumNorthPosition.is_set() && m_MinimumEastPosition.is_set() && m_CellNorthSize.is_set() && m_CellEastSize.is_set() && m_MaximumColumn.is_set() && m_MaximumRow.is_set() && m_Filename.is_set() && m_Type.is_set());
+  return check_required(reader, "GRD", __LINE__, has_required_attributes());
 }
 bool Grid::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Grid::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -936,17 +940,18 @@ bool Time::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
-bool Time::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Time::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Start, spec_date_time, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Stop, spec_date_time, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Duration, spec_range_0_to_4294967294_uint32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Type, spec_one_of_1_2_4_to_8, attribute);
+    case 'A': return binding::accept_attribute(m_Start, spec_date_time, attribute);
+    case 'B': return binding::accept_attribute(m_Stop, spec_date_time, attribute);
+    case 'C': return binding::accept_attribute(m_Duration, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(m_Type, spec_one_of_1_2_4_to_8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Time::has_required_attributes() const { return m_Start.is_set() && m_Type.is_set(); }
 lmx::elmx_error Time::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "TIM", __LINE__, m_Start.is_set() && m_Type.is_set());
+  return check_required(reader, "TIM", __LINE__, has_required_attributes());
 }
 bool Time::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTime, false, {elem_event_map, "TIM", __LINE__}, error); }
 lmx::elmx_error Time::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1016,7 +1021,7 @@ lmx::s_known_elements const Position::known_elements[] = {
 };
 lmx::elmx_error Position::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "PTN", __LINE__); }
 lmx::elmx_error Position::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Position::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1033,22 +1038,23 @@ bool Position::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
-bool Position::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Position::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_North, spec_degrees_latitude, attribute);
-    case 'B': return binding::accept_attribute(reader, m_East, spec_degrees_longitude, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Altitude, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Status, spec_one_of_0_to_15, attribute);
-    case 'E': return binding::accept_attribute(reader, m_PDOP, spec_dilution, attribute);
-    case 'F': return binding::accept_attribute(reader, m_HDOP, spec_dilution, attribute);
-    case 'G': return binding::accept_attribute(reader, m_NumberOfSatelites, spec_range_0_to_254_uint8, attribute);
-    case 'H': return binding::accept_attribute(reader, m_GpsUtcTime, spec_range_0_to_4294967294_uint32, attribute);
-    case 'I': return binding::accept_attribute(reader, m_PgsUtcDate, spec_range_0_to_65534_uint16, attribute);
+    case 'A': return binding::accept_attribute(m_North, spec_degrees_latitude, attribute);
+    case 'B': return binding::accept_attribute(m_East, spec_degrees_longitude, attribute);
+    case 'C': return binding::accept_attribute(m_Altitude, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'D': return binding::accept_attribute(m_Status, spec_one_of_0_to_15, attribute);
+    case 'E': return binding::accept_attribute(m_PDOP, spec_dilution, attribute);
+    case 'F': return binding::accept_attribute(m_HDOP, spec_dilution, attribute);
+    case 'G': return binding::accept_attribute(m_NumberOfSatelites, spec_range_0_to_254_uint8, attribute);
+    case 'H': return binding::accept_attribute(m_GpsUtcTime, spec_range_0_to_4294967294_uint32, attribute);
+    case 'I': return binding::accept_attribute(m_PgsUtcDate, spec_range_0_to_65534_uint16, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Position::has_required_attributes() const { return m_North.is_set() && m_East.is_set() && m_Status.is_set(); }
 lmx::elmx_error Position::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PTN", __LINE__, m_North.is_set() && m_East.is_set() && m_Status.is_set());
+  return check_required(reader, "PTN", __LINE__, has_required_attributes());
 }
 bool Position::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Position::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1115,7 +1121,7 @@ lmx::s_known_elements const DataLogTrigger::known_elements[] = {
 };
 lmx::elmx_error DataLogTrigger::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "DLT", __LINE__); }
 lmx::elmx_error DataLogTrigger::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool DataLogTrigger::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1135,25 +1141,26 @@ bool DataLogTrigger::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_erro
   }
   return false;
 }
-bool DataLogTrigger::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DataLogTrigger::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_DDI, spec_bytes_2, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Method, spec_range_1_to_31_uint8, attribute);
-    case 'C': return binding::accept_attribute(reader, m_DistanceInterval, spec_range_0_to_1000000_uint32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_TimeInterval, spec_range_0_to_60000_uint16, attribute);
-    case 'E': return binding::accept_attribute(reader, m_ThresholdMinimum, spec_range_minus_2147483647_to_2147483647_int32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_ThresholdMaximum, spec_range_minus_2147483647_to_2147483647_int32, attribute);
-    case 'G': return binding::accept_attribute(reader, m_ThresholdChange, spec_range_minus_2147483647_to_2147483647_int32, attribute);
-    case 'H': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_44, attribute);
-    case 'I': return binding::accept_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_45, attribute);
-    case 'J': return binding::accept_attribute(reader, m_PGN, spec_range_0_to_262143_uint32, attribute);
-    case 'K': return binding::accept_attribute(reader, m_PGNStartBit, spec_range_0_to_63_uint8, attribute);
-    case 'L': return binding::accept_attribute(reader, m_PGNStopBit, spec_range_0_to_63_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_DDI, spec_bytes_2, attribute);
+    case 'B': return binding::accept_attribute(m_Method, spec_range_1_to_31_uint8, attribute);
+    case 'C': return binding::accept_attribute(m_DistanceInterval, spec_range_0_to_1000000_uint32, attribute);
+    case 'D': return binding::accept_attribute(m_TimeInterval, spec_range_0_to_60000_uint16, attribute);
+    case 'E': return binding::accept_attribute(m_ThresholdMinimum, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'F': return binding::accept_attribute(m_ThresholdMaximum, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'G': return binding::accept_attribute(m_ThresholdChange, spec_range_minus_2147483647_to_2147483647_int32, attribute);
+    case 'H': return binding::accept_attribute(m_DeviceElementIdRef, spec_id_DET_44, attribute);
+    case 'I': return binding::accept_attribute(m_ValuePresentationIdRef, spec_id_VPN_45, attribute);
+    case 'J': return binding::accept_attribute(m_PGN, spec_range_0_to_262143_uint32, attribute);
+    case 'K': return binding::accept_attribute(m_PGNStartBit, spec_range_0_to_63_uint8, attribute);
+    case 'L': return binding::accept_attribute(m_PGNStopBit, spec_range_0_to_63_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DataLogTrigger::has_required_attributes() const { return m_DDI.is_set() && m_Method.is_set(); }
 lmx::elmx_error DataLogTrigger::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DLT", __LINE__, m_DDI.is_set() && m_Method.is_set());
+  return check_required(reader, "DLT", __LINE__, has_required_attributes());
 }
 bool DataLogTrigger::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DataLogTrigger::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1214,7 +1221,7 @@ lmx::s_known_elements const DataLogValue::known_elements[] = {
 };
 lmx::elmx_error DataLogValue::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "DLV", __LINE__); }
 lmx::elmx_error DataLogValue::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool DataLogValue::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1228,19 +1235,20 @@ bool DataLogValue::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool DataLogValue::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DataLogValue::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_PrecessDataDDI, spec_bytes_2, attribute);
-    case 'B': return binding::accept_attribute(reader, m_PrecessDataValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_48, attribute);
-    case 'D': return binding::accept_attribute(reader, m_rare.get_or_create().m_PGN, spec_range_0_to_262143_uint32, attribute);
-    case 'E': return binding::accept_attribute(reader, m_rare.get_or_create().m_PGNStartBit, spec_range_0_to_63_uint8, attribute);
-    case 'F': return binding::accept_attribute(reader, m_rare.get_or_create().m_PGNStopBit, spec_range_0_to_63_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_PrecessDataDDI, spec_bytes_2, attribute);
+    case 'B': return binding::accept_attribute(m_PrecessDataValue, spec_range_minus_2147483648_to_2147483647_int32, attribute);
+    case 'C': return binding::accept_attribute(m_DeviceElementIdRef, spec_id_DET_48, attribute);
+    case 'D': return binding::accept_attribute(m_rare.get_or_create().m_PGN, spec_range_0_to_262143_uint32, attribute);
+    case 'E': return binding::accept_attribute(m_rare.get_or_create().m_PGNStartBit, spec_range_0_to_63_uint8, attribute);
+    case 'F': return binding::accept_attribute(m_rare.get_or_create().m_PGNStopBit, spec_range_0_to_63_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DataLogValue::has_required_attributes() const { return m_PrecessDataDDI.is_set() && m_PrecessDataValue.is_set() && m_DeviceElementIdRef.is_set(); }
 lmx::elmx_error DataLogValue::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DLV", __LINE__, m_PrecessDataDDI.is_set() && m_PrecessDataValue.is_set() && m_DeviceElementIdRef.is_set());
+  return check_required(reader, "DLV", __LINE__, has_required_attributes());
 }
 bool DataLogValue::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error DataLogValue::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1296,7 +1304,7 @@ lmx::s_known_elements const TimeLog::known_elements[] = {
 };
 lmx::elmx_error TimeLog::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "TLG", __LINE__); }
 lmx::elmx_error TimeLog::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool TimeLog::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1307,16 +1315,17 @@ bool TimeLog::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* erro
   }
   return false;
 }
-bool TimeLog::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* TimeLog::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Filename, spec_file_TLG_103, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Filelength, spec_range_0_to_4294967294_uint32, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Type, spec_one_of_1, attribute);
+    case 'A': return binding::accept_attribute(m_Filename, spec_file_TLG_103, attribute);
+    case 'B': return binding::accept_attribute(m_Filelength, spec_range_0_to_4294967294_uint32, attribute);
+    case 'C': return binding::accept_attribute(m_Type, spec_one_of_1, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool TimeLog::has_required_attributes() const { return m_Filename.is_set() && m_Type.is_set(); }
 lmx::elmx_error TimeLog::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "TLG", __LINE__, m_Filename.is_set() && m_Type.is_set());
+  return check_required(reader, "TLG", __LINE__, has_required_attributes());
 }
 bool TimeLog::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error TimeLog::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1433,17 +1442,18 @@ bool AllocationStamp::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_err
   }
   return false;
 }
-bool AllocationStamp::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* AllocationStamp::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Start, spec_date_time, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Stop, spec_date_time, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Duration, spec_range_0_to_4294967294_uint32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Type, spec_one_of_1_4, attribute);
+    case 'A': return binding::accept_attribute(m_Start, spec_date_time, attribute);
+    case 'B': return binding::accept_attribute(m_Stop, spec_date_time, attribute);
+    case 'C': return binding::accept_attribute(m_Duration, spec_range_0_to_4294967294_uint32, attribute);
+    case 'D': return binding::accept_attribute(m_Type, spec_one_of_1_4, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool AllocationStamp::has_required_attributes() const { return m_Start.is_set() && m_Type.is_set(); }
 lmx::elmx_error AllocationStamp::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "ASP", __LINE__, m_Start.is_set() && m_Type.is_set());
+  return check_required(reader, "ASP", __LINE__, has_required_attributes());
 }
 bool AllocationStamp::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerAllocationStamp, {elem_event_map, "ASP", __LINE__}, error); }
 lmx::elmx_error AllocationStamp::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1555,14 +1565,15 @@ bool CommentAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
-bool CommentAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* CommentAllocation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_CodedCommentIdRef, spec_id_CCT_22, attribute);
-    case 'B': return binding::accept_attribute(reader, m_CodedCommentListValueIdRef, spec_id_CCL_23, attribute);
-    case 'C': return binding::accept_attribute(reader, m_FreeCommentText, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_CodedCommentIdRef, spec_id_CCT_22, attribute);
+    case 'B': return binding::accept_attribute(m_CodedCommentListValueIdRef, spec_id_CCL_23, attribute);
+    case 'C': return binding::accept_attribute(m_FreeCommentText, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool CommentAllocation::has_required_attributes() const { return true; }
 lmx::elmx_error CommentAllocation::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool CommentAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerCommentAllocation, {elem_event_map, "CAN", __LINE__}, error); }
 lmx::elmx_error CommentAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1670,16 +1681,17 @@ bool DeviceAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   }
   return false;
 }
-bool DeviceAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* DeviceAllocation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ClientNameValue, spec_bytes_8, attribute);
-    case 'B': return binding::accept_attribute(reader, m_ClientNameMask, spec_bytes_8, attribute);
-    case 'C': return binding::accept_attribute(reader, m_DeviceIdRef, spec_id_DVC_52, attribute);
+    case 'A': return binding::accept_attribute(m_ClientNameValue, spec_bytes_8, attribute);
+    case 'B': return binding::accept_attribute(m_ClientNameMask, spec_bytes_8, attribute);
+    case 'C': return binding::accept_attribute(m_DeviceIdRef, spec_id_DVC_52, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool DeviceAllocation::has_required_attributes() const { return m_ClientNameValue.is_set(); }
 lmx::elmx_error DeviceAllocation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "DAN", __LINE__, m_ClientNameValue.is_set());
+  return check_required(reader, "DAN", __LINE__, has_required_attributes());
 }
 bool DeviceAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerDeviceAllocation, {elem_event_map, "DAN", __LINE__}, error); }
 lmx::elmx_error DeviceAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1783,14 +1795,15 @@ bool WorkerAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   }
   return false;
 }
-bool WorkerAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* WorkerAllocation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_WorkerIdRef, spec_id_WKR_107, attribute);
+    case 'A': return binding::accept_attribute(m_WorkerIdRef, spec_id_WKR_107, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool WorkerAllocation::has_required_attributes() const { return m_WorkerIdRef.is_set(); }
 lmx::elmx_error WorkerAllocation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "WAN", __LINE__, m_WorkerIdRef.is_set());
+  return check_required(reader, "WAN", __LINE__, has_required_attributes());
 }
 bool WorkerAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerWorkerAllocation, {elem_event_map, "WAN", __LINE__}, error); }
 lmx::elmx_error WorkerAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1904,20 +1917,21 @@ bool ProductAllocation::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
-bool ProductAllocation::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ProductAllocation::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ProductIdRef, spec_id_PDT_91, attribute);
-    case 'B': return binding::accept_attribute(reader, m_QuantityDDI, spec_bytes_2, attribute);
-    case 'C': return binding::accept_attribute(reader, m_QuantityValue, spec_range_0_to_2147483647_uint32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_TransferMode, spec_one_of_1_to_3, attribute);
-    case 'E': return binding::accept_attribute(reader, m_DeviceElementIdRef, spec_id_DET_92, attribute);
-    case 'F': return binding::accept_attribute(reader, m_ValuePresentationIdRef, spec_id_VPN_93, attribute);
-    case 'G': return binding::accept_attribute(reader, m_ProductSubTypeIdRef, spec_id_PDT_94, attribute);
+    case 'A': return binding::accept_attribute(m_ProductIdRef, spec_id_PDT_91, attribute);
+    case 'B': return binding::accept_attribute(m_QuantityDDI, spec_bytes_2, attribute);
+    case 'C': return binding::accept_attribute(m_QuantityValue, spec_range_0_to_2147483647_uint32, attribute);
+    case 'D': return binding::accept_attribute(m_TransferMode, spec_one_of_1_to_3, attribute);
+    case 'E': return binding::accept_attribute(m_DeviceElementIdRef, spec_id_DET_92, attribute);
+    case 'F': return binding::accept_attribute(m_ValuePresentationIdRef, spec_id_VPN_93, attribute);
+    case 'G': return binding::accept_attribute(m_ProductSubTypeIdRef, spec_id_PDT_94, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ProductAllocation::has_required_attributes() const { return m_ProductIdRef.is_set(); }
 lmx::elmx_error ProductAllocation::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "PAN", __LINE__, m_ProductIdRef.is_set());
+  return check_required(reader, "PAN", __LINE__, has_required_attributes());
 }
 bool ProductAllocation::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerProductAllocation, {elem_event_map, "PAN", __LINE__}, error); }
 lmx::elmx_error ProductAllocation::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -2039,20 +2053,21 @@ bool ControlAssignment::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_e
   }
   return false;
 }
-bool ControlAssignment::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ControlAssignment::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_SourceClientName, spec_bytes_8, attribute);
-    case 'B': return binding::accept_attribute(reader, m_UserClientName, spec_bytes_8, attribute);
-    case 'C': return binding::accept_attribute(reader, m_SourceDeviceStructureLabel, spec_structure_label_28, attribute);
-    case 'D': return binding::accept_attribute(reader, m_UserDeviceStructureLabel, spec_structure_label_upper_first_29, attribute);
-    case 'E': return binding::accept_attribute(reader, m_SourceDeviceElementNumber, spec_range_0_to_4095_uint16, attribute);
-    case 'F': return binding::accept_attribute(reader, m_UserDevieceElementNumber, spec_range_0_to_4095_uint16, attribute);
-    case 'G': return binding::accept_attribute(reader, m_ProcessDataDDI, spec_bytes_2, attribute);
+    case 'A': return binding::accept_attribute(m_SourceClientName, spec_bytes_8, attribute);
+    case 'B': return binding::accept_attribute(m_UserClientName, spec_bytes_8, attribute);
+    case 'C': return binding::accept_attribute(m_SourceDeviceStructureLabel, spec_structure_label_28, attribute);
+    case 'D': return binding::accept_attribute(m_UserDeviceStructureLabel, spec_structure_label_upper_first_29, attribute);
+    case 'E': return binding::accept_attribute(m_SourceDeviceElementNumber, spec_range_0_to_4095_uint16, attribute);
+    case 'F': return binding::accept_attribute(m_UserDevieceElementNumber, spec_range_0_to_4095_uint16, attribute);
+    case 'G': return binding::accept_attribute(m_ProcessDataDDI, spec_bytes_2, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ControlAssignment::has_required_attributes() const { return m_SourceClientName.is_set() && m_UserClientName.is_set() && m_SourceDeviceStructureLabel.is_set() && m_UserDeviceStructureLabel.is_set() && m_SourceDeviceElementNumber.is_set() && m_UserDevieceElementNumber.is_set() && m_ProcessDataDDI.is_set(); }
 lmx::elmx_error ControlAssignment::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CAT", __LINE__, m_SourceClientName.is_set() && m_UserClientName.is_set() && m_SourceDeviceStructureLabel.is_set() && m_UserDeviceStructureLabel.is_set() && m_SourceDeviceElementNumber.is_set() && m_UserDevieceElementNumber.is_set() && m_ProcessDataDDI.is_set());
+  return check_required(reader, "CAT", __LINE__, has_required_attributes());
 }
 bool ControlAssignment::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrapper(reader, mInnerControlAssignment, {elem_event_map, "CAT", __LINE__}, error); }
 lmx::elmx_error ControlAssignment::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -2117,7 +2132,7 @@ lmx::s_known_elements const Connection::known_elements[] = {
 };
 lmx::elmx_error Connection::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "CNN", __LINE__); }
 lmx::elmx_error Connection::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Connection::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -2129,17 +2144,18 @@ bool Connection::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* e
   }
   return false;
 }
-bool Connection::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Connection::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_DeviceIdRef_0, spec_id_DVC_24, attribute);
-    case 'B': return binding::accept_attribute(reader, m_DeviceElementIdRef_0, spec_id_DET_25, attribute);
-    case 'C': return binding::accept_attribute(reader, m_DeviceIdRef_1, spec_id_DVC_26, attribute);
-    case 'D': return binding::accept_attribute(reader, m_DeviceElementIdRef_1, spec_id_DET_27, attribute);
+    case 'A': return binding::accept_attribute(m_DeviceIdRef_0, spec_id_DVC_24, attribute);
+    case 'B': return binding::accept_attribute(m_DeviceElementIdRef_0, spec_id_DET_25, attribute);
+    case 'C': return binding::accept_attribute(m_DeviceIdRef_1, spec_id_DVC_26, attribute);
+    case 'D': return binding::accept_attribute(m_DeviceElementIdRef_1, spec_id_DET_27, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Connection::has_required_attributes() const { return m_DeviceIdRef_0.is_set() && m_DeviceElementIdRef_0.is_set() && m_DeviceIdRef_1.is_set() && m_DeviceElementIdRef_1.is_set(); }
 lmx::elmx_error Connection::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "CNN", __LINE__, m_DeviceIdRef_0.is_set() && m_DeviceElementIdRef_0.is_set() && m_DeviceIdRef_1.is_set() && m_DeviceElementIdRef_1.is_set());
+  return check_required(reader, "CNN", __LINE__, has_required_attributes());
 }
 bool Connection::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Connection::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -2190,7 +2206,7 @@ lmx::s_known_elements const OperTechPractice::known_elements[] = {
 };
 lmx::elmx_error OperTechPractice::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "OTP", __LINE__); }
 lmx::elmx_error OperTechPractice::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool OperTechPractice::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -2200,15 +2216,16 @@ bool OperTechPractice::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_er
   }
   return false;
 }
-bool OperTechPractice::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* OperTechPractice::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_CulturalPracticeIdRef, spec_id_CPC_72, attribute);
-    case 'B': return binding::accept_attribute(reader, m_OperationTechniqueIdRef, spec_id_OTQ_73, attribute);
+    case 'A': return binding::accept_attribute(m_CulturalPracticeIdRef, spec_id_CPC_72, attribute);
+    case 'B': return binding::accept_attribute(m_OperationTechniqueIdRef, spec_id_OTQ_73, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool OperTechPractice::has_required_attributes() const { return m_CulturalPracticeIdRef.is_set(); }
 lmx::elmx_error OperTechPractice::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "OTP", __LINE__, m_CulturalPracticeIdRef.is_set());
+  return check_required(reader, "OTP", __LINE__, has_required_attributes());
 }
 bool OperTechPractice::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error OperTechPractice::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }

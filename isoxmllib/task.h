@@ -409,9 +409,12 @@ class ISOXML_API Task {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -587,9 +590,12 @@ class ISOXML_API TreatmentZone {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -805,9 +811,12 @@ class ISOXML_API ProcessDataVariable {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -940,9 +949,12 @@ class ISOXML_API Grid {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1127,9 +1139,12 @@ class ISOXML_API Time {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1242,9 +1257,12 @@ class ISOXML_API Position {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1381,9 +1399,12 @@ class ISOXML_API DataLogTrigger {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1483,9 +1504,12 @@ class ISOXML_API DataLogValue {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1564,9 +1588,12 @@ class ISOXML_API TimeLog {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1720,9 +1747,12 @@ class ISOXML_API AllocationStamp {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1858,9 +1888,12 @@ class ISOXML_API CommentAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -1997,9 +2030,12 @@ class ISOXML_API DeviceAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -2121,9 +2157,12 @@ class ISOXML_API WorkerAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -2289,9 +2328,12 @@ class ISOXML_API ProductAllocation {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -2461,9 +2503,12 @@ class ISOXML_API ControlAssignment {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -2545,9 +2590,12 @@ class ISOXML_API Connection {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
@@ -2611,9 +2659,12 @@ class ISOXML_API OperTechPractice {
   lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);
   /// Reads the attribute now at the reader. False when it is none of this element's.
   bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.
-  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);
-  /// 25 unless all required attributes came.
+  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with
+  /// nothing changed, for any other.
+  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
+  /// True when all required attributes are set.
+  bool has_required_attributes() const;
+  /// 25 unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.

@@ -480,9 +480,10 @@ bool TaskData::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
-bool TaskData::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* TaskData::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool TaskData::has_required_attributes() const { return m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set(); }
 lmx::elmx_error TaskData::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "ISO11783_TaskData", __LINE__, m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set());
+  return check_required(reader, "ISO11783_TaskData", __LINE__, has_required_attributes());
 }
 bool TaskData::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerTaskData, false, {elem_event_map, "ISO11783_TaskData", __LINE__}, error); }
 lmx::elmx_error TaskData::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -891,7 +892,8 @@ lmx::elmx_error ExternalFileContent::unmarshal(lmx::xmlReader& reader, std::stri
   return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_complex_content, known_elements, true, __LINE__});
 }
 bool ExternalFileContent::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) { return false; }
-bool ExternalFileContent::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* ExternalFileContent::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool ExternalFileContent::has_required_attributes() const { return true; }
 lmx::elmx_error ExternalFileContent::unmarshal_attributes_check(lmx::xmlReader&) { return lmx::ELMX_OK; }
 bool ExternalFileContent::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerExternalFileContent, false, {elem_event_map, "XFC", __LINE__}, error); }
 lmx::elmx_error ExternalFileContent::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -947,7 +949,7 @@ lmx::s_known_elements const ExternalFileReference::known_elements[] = {
 };
 lmx::elmx_error ExternalFileReference::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "XFR", __LINE__); }
 lmx::elmx_error ExternalFileReference::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::addNewExternalFileReference);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::addNewExternalFileReference);
 }
 bool ExternalFileReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -957,15 +959,16 @@ bool ExternalFileReference::unmarshal_attributes(lmx::xmlReader& reader, lmx::el
   }
   return false;
 }
-bool ExternalFileReference::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* ExternalFileReference::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_FileName, spec_external_file_12, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Type, spec_one_of_1, attribute);
+    case 'A': return binding::accept_attribute(m_FileName, spec_external_file_12, attribute);
+    case 'B': return binding::accept_attribute(m_Type, spec_one_of_1, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool ExternalFileReference::has_required_attributes() const { return m_FileName.is_set() && m_Type.is_set(); }
 lmx::elmx_error ExternalFileReference::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "XFR", __LINE__, m_FileName.is_set() && m_Type.is_set());
+  return check_required(reader, "XFR", __LINE__, has_required_attributes());
 }
 bool ExternalFileReference::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error ExternalFileReference::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1018,7 +1021,7 @@ lmx::s_known_elements const AttachedFile::known_elements[] = {
 };
 lmx::elmx_error AttachedFile::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "AFE", __LINE__); }
 lmx::elmx_error AttachedFile::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::addNewAttachedFile);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::addNewAttachedFile);
 }
 bool AttachedFile::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1032,19 +1035,20 @@ bool AttachedFile::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool AttachedFile::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* AttachedFile::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_FileNameWithExtension, spec_attached_file_1, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Preserve, spec_one_of_1_2, attribute);
-    case 'C': return binding::accept_attribute(reader, m_ManufacturerGLN, spec_gln_32, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Type, spec_range_1_to_254_uint8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_FileVersion, spec_text_32, attribute);
-    case 'F': return binding::accept_attribute(reader, m_FileLength, spec_range_0_to_4294967294_uint32, attribute);
+    case 'A': return binding::accept_attribute(m_FileNameWithExtension, spec_attached_file_1, attribute);
+    case 'B': return binding::accept_attribute(m_Preserve, spec_one_of_1_2, attribute);
+    case 'C': return binding::accept_attribute(m_ManufacturerGLN, spec_gln_32, attribute);
+    case 'D': return binding::accept_attribute(m_Type, spec_range_1_to_254_uint8, attribute);
+    case 'E': return binding::accept_attribute(m_FileVersion, spec_text_32, attribute);
+    case 'F': return binding::accept_attribute(m_FileLength, spec_range_0_to_4294967294_uint32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool AttachedFile::has_required_attributes() const { return m_FileNameWithExtension.is_set() && m_Preserve.is_set() && m_ManufacturerGLN.is_set() && m_Type.is_set(); }
 lmx::elmx_error AttachedFile::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "AFE", __LINE__, m_FileNameWithExtension.is_set() && m_Preserve.is_set() && m_ManufacturerGLN.is_set() && m_Type.is_set());
+  return check_required(reader, "AFE", __LINE__, has_required_attributes());
 }
 bool AttachedFile::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error AttachedFile::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1104,7 +1108,7 @@ lmx::s_known_elements const TaskControllerCapabilities::known_elements[] = {
 };
 lmx::elmx_error TaskControllerCapabilities::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "TCC", __LINE__); }
 lmx::elmx_error TaskControllerCapabilities::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool TaskControllerCapabilities::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1119,20 +1123,21 @@ bool TaskControllerCapabilities::unmarshal_attributes(lmx::xmlReader& reader, lm
   }
   return false;
 }
-bool TaskControllerCapabilities::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* TaskControllerCapabilities::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ControlFunctionName, spec_bytes_8, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Designator, spec_text_153, attribute);
-    case 'C': return binding::accept_attribute(reader, m_VersionNumber, spec_one_of_0_to_4, attribute);
-    case 'D': return binding::accept_attribute(reader, m_ProvidedCapabilites, spec_range_0_to_63_uint8, attribute);
-    case 'E': return binding::accept_attribute(reader, m_NumberOfBoomsSectionControl, spec_range_0_to_254_uint8, attribute);
-    case 'F': return binding::accept_attribute(reader, m_NumberOfSectionsSectionControl, spec_range_0_to_254_uint8, attribute);
-    case 'G': return binding::accept_attribute(reader, m_NumberOfControlChannels, spec_range_0_to_254_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_ControlFunctionName, spec_bytes_8, attribute);
+    case 'B': return binding::accept_attribute(m_Designator, spec_text_153, attribute);
+    case 'C': return binding::accept_attribute(m_VersionNumber, spec_one_of_0_to_4, attribute);
+    case 'D': return binding::accept_attribute(m_ProvidedCapabilites, spec_range_0_to_63_uint8, attribute);
+    case 'E': return binding::accept_attribute(m_NumberOfBoomsSectionControl, spec_range_0_to_254_uint8, attribute);
+    case 'F': return binding::accept_attribute(m_NumberOfSectionsSectionControl, spec_range_0_to_254_uint8, attribute);
+    case 'G': return binding::accept_attribute(m_NumberOfControlChannels, spec_range_0_to_254_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool TaskControllerCapabilities::has_required_attributes() const { return m_ControlFunctionName.is_set() && m_Designator.is_set() && m_VersionNumber.is_set() && m_ProvidedCapabilites.is_set() && m_NumberOfBoomsSectionControl.is_set() && m_NumberOfSectionsSectionControl.is_set() && m_NumberOfControlChannels.is_set(); }
 lmx::elmx_error TaskControllerCapabilities::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "TCC", __LINE__, m_ControlFunctionName.is_set() && m_Designator.is_set() && m_VersionNumber.is_set() && m_ProvidedCapabilites.is_set() && m_NumberOfBoomsSectionControl.is_set() && m_NumberOfSectionsSectionControl.is_set() && m_NumberOfControlChannels.is_set());
+  return check_required(reader, "TCC", __LINE__, has_required_attributes());
 }
 bool TaskControllerCapabilities::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error TaskControllerCapabilities::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1193,7 +1198,7 @@ lmx::s_known_elements const P917Metadata::known_elements[] = {
 };
 lmx::elmx_error P917Metadata::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "P917_Metadata", __LINE__); }
 lmx::elmx_error P917Metadata::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__}, &lmx::xmlReader::setP917Metadata);
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__}, &lmx::xmlReader::setP917Metadata);
 }
 bool P917Metadata::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1205,9 +1210,10 @@ bool P917Metadata::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error*
   }
   return false;
 }
-bool P917Metadata::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* P917Metadata::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool P917Metadata::has_required_attributes() const { return m_Version.is_set(); }
 lmx::elmx_error P917Metadata::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "P917_Metadata", __LINE__, m_Version.is_set());
+  return check_required(reader, "P917_Metadata", __LINE__, has_required_attributes());
 }
 bool P917Metadata::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error P917Metadata::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1334,9 +1340,10 @@ bool LinkList::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* err
   }
   return false;
 }
-bool LinkList::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) { return false; }
+lmx::c_untyped_validation_spec const* LinkList::accept_attribute(lmx::plain_attribute const&) { return nullptr; }
+bool LinkList::has_required_attributes() const { return m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set(); }
 lmx::elmx_error LinkList::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "ISO11783LinkList", __LINE__, m_VersionMajor.is_set() && m_VersionMinor.is_set() && m_ManagementSoftwareManufacturer.is_set() && m_ManagementSoftwareVersion.is_set() && m_DataTransferOrigin.is_set());
+  return check_required(reader, "ISO11783LinkList", __LINE__, has_required_attributes());
 }
 bool LinkList::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerLinkList, false, {elem_event_map, "ISO11783LinkList", __LINE__}, error); }
 lmx::elmx_error LinkList::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1475,18 +1482,19 @@ bool LinkGroup::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* er
   }
   return false;
 }
-bool LinkGroup::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* LinkGroup::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_id_LGP_112, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Type, spec_one_of_1_to_4, attribute);
-    case 'C': return binding::accept_attribute(reader, m_ManufacturerGLN, spec_gln_64, attribute);
-    case 'D': return binding::accept_attribute(reader, m_Namespace, spec_token_255, attribute);
-    case 'E': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_id_LGP_112, attribute);
+    case 'B': return binding::accept_attribute(m_Type, spec_one_of_1_to_4, attribute);
+    case 'C': return binding::accept_attribute(m_ManufacturerGLN, spec_gln_64, attribute);
+    case 'D': return binding::accept_attribute(m_Namespace, spec_token_255, attribute);
+    case 'E': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool LinkGroup::has_required_attributes() const { return m_Id.is_set() && m_Type.is_set(); }
 lmx::elmx_error LinkGroup::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "LGP", __LINE__, m_Id.is_set() && m_Type.is_set());
+  return check_required(reader, "LGP", __LINE__, has_required_attributes());
 }
 bool LinkGroup::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerLinkGroup, false, {elem_event_map, "LGP", __LINE__}, error); }
 lmx::elmx_error LinkGroup::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -1551,7 +1559,7 @@ lmx::s_known_elements const Link::known_elements[] = {
 };
 lmx::elmx_error Link::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "LNK", __LINE__); }
 lmx::elmx_error Link::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Link::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -1562,16 +1570,17 @@ bool Link::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
-bool Link::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Link::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_ObjectIdRef, spec_object_id_ref_110, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Value, spec_token_255, attribute);
-    case 'C': return binding::accept_attribute(reader, m_Designator, spec_text_32, attribute);
+    case 'A': return binding::accept_attribute(m_ObjectIdRef, spec_object_id_ref_110, attribute);
+    case 'B': return binding::accept_attribute(m_Value, spec_token_255, attribute);
+    case 'C': return binding::accept_attribute(m_Designator, spec_text_32, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Link::has_required_attributes() const { return m_ObjectIdRef.is_set() && m_Value.is_set(); }
 lmx::elmx_error Link::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "LNK", __LINE__, m_ObjectIdRef.is_set() && m_Value.is_set());
+  return check_required(reader, "LNK", __LINE__, has_required_attributes());
 }
 bool Link::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Link::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }

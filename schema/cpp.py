@@ -230,9 +230,12 @@ def declare_element(element):
         "  lmx::elmx_error unmarshal(lmx::xmlReader& reader, std::string const& name);",
         "  /// Reads the attribute now at the reader. False when it is none of this element's.",
         "  bool unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error);",
-        "  /// Takes an attribute whose value is plain and as it should be. False, with nothing changed, for any other.",
-        "  bool accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute);",
-        "  /// 25 unless all required attributes came.",
+        "  /// Takes an attribute whose value is plain and as it should be. Returns what the value had to pass; null, with",
+        "  /// nothing changed, for any other.",
+        "  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);",
+        "  /// True when all required attributes are set.",
+        "  bool has_required_attributes() const;",
+        "  /// 25 unless they are.",
         "  lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);",
         "  bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);",
         "  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.",
@@ -441,9 +444,8 @@ def define_attributes(element):
     if not element.attributes:
         return [
             f"bool {name}::unmarshal_attributes(lmx::xmlReader&, lmx::elmx_error*) {{ return false; }}",
-            f"bool {name}::accept_attribute(lmx::xmlReader&, lmx::plain_attribute const&) {{ return false; }}",
-            f"lmx::elmx_error {name}::unmarshal_attributes_check(lmx::xmlReader&) {{ return lmx::ELMX_OK; }}",
-        ]
+            f"lmx::c_untyped_validation_spec const* {name}::accept_attribute(lmx::plain_attribute const&) {{ return nullptr; }}",
+        ] + define_required(element)
     lines = [
         f"bool {name}::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {{",
         "  reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);",
@@ -452,27 +454,31 @@ def define_attributes(element):
     lines += [f"    case {attribute_event(element, value)}: return read_attribute(reader, {value.own_member}, {value.spec}, __LINE__, error);"
               for value in element.attributes]
     lines += ["  }", "  return false;", "}"]
-    lines += define_accept(element)
+    return lines + define_accept(element) + define_required(element)
+
+
+def define_required(element):
     required = [f"m_{value.field}.is_set()" for value in element.attributes if value.use == "required"]
+    lines = [f"bool {element.name}::has_required_attributes() const {{ return {' && '.join(required) or 'true'}; }}"]
     if not required:
-        return lines + [f"lmx::elmx_error {name}::unmarshal_attributes_check(lmx::xmlReader&) {{ return lmx::ELMX_OK; }}"]
+        return lines + [f"lmx::elmx_error {element.name}::unmarshal_attributes_check(lmx::xmlReader&) {{ return lmx::ELMX_OK; }}"]
     return lines + [
-        f"lmx::elmx_error {name}::unmarshal_attributes_check(lmx::xmlReader& reader) {{",
-        f"  return check_required(reader, {tag_literal(element)}, __LINE__, {' && '.join(required)});",
+        f"lmx::elmx_error {element.name}::unmarshal_attributes_check(lmx::xmlReader& reader) {{",
+        f"  return check_required(reader, {tag_literal(element)}, __LINE__, has_required_attributes());",
         "}",
     ]
 
 
 def define_accept(element):
     """The short cut for the attributes whose names are one letter, as all but the extensions' are."""
-    head = f"bool {element.name}::accept_attribute(lmx::xmlReader&"
+    head = f"lmx::c_untyped_validation_spec const* {element.name}::accept_attribute(lmx::plain_attribute const&"
     quick = [value for value in element.attributes if len(value.xml) == 1 and has_acceptor(value)]
     if not quick:
-        return [f"{head}, lmx::plain_attribute const&) {{ return false; }}"]
-    lines = [f"{head} reader, lmx::plain_attribute const& attribute) {{", "  switch (attribute.letter()) {"]
-    lines += [f"    case '{value.xml}': return binding::accept_attribute(reader, {value.own_member}, {value.spec}, attribute);"
+        return [f"{head}) {{ return nullptr; }}"]
+    lines = [f"{head} attribute) {{", "  switch (attribute.letter()) {"]
+    lines += [f"    case '{value.xml}': return binding::accept_attribute({value.own_member}, {value.spec}, attribute);"
               for value in quick]
-    return lines + ["  }", "  return false;", "}"]
+    return lines + ["  }", "  return nullptr;", "}"]
 
 
 def attribute_event(element, value):
@@ -562,7 +568,7 @@ def define_element(element):
     has_children = element.alternatives or element.list_of or element.simple_children
     content = "simple" if element.text else "complex" if has_children else "empty"
     mandatory = element.children == "at_least_one" or element.simple_children
-    empty = "mandatory_content_may_be_empty" if mandatory else "true" if has_children else "false"
+    empty = "mandatory_content_may_be_empty" if mandatory else "false" if element.text else "true"
     table = "nullptr" if element.text else "known_elements"
     collect = f", &lmx::xmlReader::{element.collect}" if element.collect else ""
     lines += [

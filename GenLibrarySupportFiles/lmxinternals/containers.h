@@ -353,9 +353,10 @@ class ct_complex_multi {
   // For one more child, so that it is owned as soon as it is there.
   void p_make_room() {
     constexpr std::size_t usual_start = 3;  // which fill what is the smallest allocation anyway
-    if (m_values.size() == m_values.capacity()) {
-      m_values.reserve(m_values.empty() ? usual_start : 2 * m_values.size());
-    }
+    constexpr std::size_t few = 64;
+    std::size_t const size = m_values.size();
+    if (size == m_values.capacity())
+      m_values.reserve(size == 0 ? usual_start : size < few ? 3 * size : 2 * size);
   }
   void p_destroy_all() {
     for (detail::listed_child<T> const& child : m_values) child.destroy();

@@ -54,12 +54,33 @@ unsigned char const* skip_value(unsigned char const* p, unsigned char const* end
   return p;
 }
 
-}  // namespace
-
-void c_attribute_data::clear() {
-  m_data.clear();
-  m_index = 0;
+bool is_tag_end(unsigned char const* p, unsigned char const* end) {
+  return end - p >= 2 && (*p == '>' || (*p == '/' && p[1] == '>'));
 }
+
+// True where four bytes are the beginning of a usual attribute: ` A="`, with any byte for the letter.
+bool begins_usual_attribute(unsigned char const* p) {
+  return ((words::load_4(p) ^ words::load_4(" \0=\"")) & words::load_4("\xFF\0\xFF\xFF")) == 0;
+}
+
+// Captures attributes as long as they are ` A="value"` with a plain value of less than sixteen bytes, and
+// adds their number to `*count`. Returns where it stopped. Nothing is read from `readable_end` on.
+unsigned char const* capture_usual_attributes(unsigned char const* p, unsigned char const* readable_end,
+                                              plain_attribute* attributes, std::size_t most,
+                                              std::size_t* count) {
+  constexpr std::ptrdiff_t beginning = 4;
+  constexpr unsigned window = 16;
+  while (readable_end - p > beginning + std::ptrdiff_t{window} && begins_usual_attribute(p) &&
+         is_in_class(p[1], plain_name_start) && *count != most) {
+    unsigned const length = words::before_stop(p + beginning, '"');
+    if (length == window || p[beginning + length] != '"') break;
+    attributes[(*count)++] = {as_chars(p + 1), 1, length};
+    p += beginning + length + 1;
+  }
+  return p;
+}
+
+}  // namespace
 
 void c_attribute_data::take_name(std::string* name) {
   name->clear();
@@ -74,7 +95,9 @@ void c_attribute_data::skip_value() {
 }
 
 c_xml::c_xml(c_read& read, c_error& error, bool normalize_char_refs)
-    : m_getter(read, error, normalize_char_refs), m_internal_dtd(m_getter) {
+    : m_getter(read, error, normalize_char_refs),
+      m_internal_dtd(m_getter),
+      m_plain_name(words::load_4("PNT ")) {
   m_attributes.m_data.reserve(usual_attribute_bytes);
   m_ns_attributes.m_data.reserve(usual_attribute_bytes);
 }
@@ -135,13 +158,16 @@ elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* na
   const byte_window window = m_getter.line_window();
   int line_feeds = 0;
   unsigned char const* p = skip_space(window.begin, window.end, &line_feeds);
-  if (window.end - p < 3 || *p != '<') return EXE_UNKNOWN;
+  if (window.end - p < 6 || *p != '<') return EXE_UNKNOWN;
   const bool is_end_tag = *++p == '/';
   if (is_end_tag) ++p;
-  if (!is_in_class(*p, is_end_tag ? plain_name : plain_name_start)) return EXE_UNKNOWN;
-
   unsigned char const* const begin = p;
-  p = skip_name(p, window.end);
+  if (words::load_4(p) == m_plain_name) {  // one of a run of siblings, say
+    p += plain_name_length;
+  } else {
+    if (!is_in_class(*p, is_end_tag ? plain_name : plain_name_start)) return EXE_UNKNOWN;
+    p = skip_name(p, window.end);
+  }
   const std::size_t length = distance(begin, p);
   if (is_end_tag) {
     if (p == window.end || *p++ != '>') return EXE_UNKNOWN;
@@ -150,9 +176,22 @@ elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* na
     if (p == window.end || *p == '\n') return EXE_UNKNOWN;
     m_attributes.clear();
     m_ns_attributes.clear();
-    p = p_scan_plain_attributes({p, window.end}, local == nullptr, &line_feeds);
-    if (p == nullptr) return EXE_UNKNOWN;
+    std::size_t count = 0;
+    p = capture_usual_attributes(p, window.end, m_plain, most_plain_attributes, &count);
+    if (!is_tag_end(p, window.end)) {
+      p = p_capture_plain_attributes({p, window.end}, local == nullptr, &count, &line_feeds);
+      if (p == nullptr) {
+        p_forget_plain_attributes();
+        return EXE_UNKNOWN;
+      }
+    }
+    m_plain_count = count;
+    m_plain_next = 0;
+    m_plain_value_pending = false;
+    m_plain_end = p;
+    m_plain_fetches = m_getter.fetches();
     m_attributes_cut_off = false;
+    if (length == plain_name_length) m_plain_name = words::load_4(begin);
   }
   copy_name(name, as_chars(begin), length);
   m_getter.consume_lines(p, line_feeds);
@@ -160,42 +199,25 @@ elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* na
   return is_end_tag ? EXE_ELEMENT_END : EXE_TOKEN;
 }
 
-// Returns where the tag ends, at its ">" or "/>"; null, and nothing captured, when it is not plain.
-unsigned char const* c_xml::p_scan_plain_attributes(byte_window window, bool take_declarations,
-                                                    int* line_feeds) {
-  p_forget_plain_attributes();
-  m_plain_fetches = m_getter.fetches();
-  unsigned char const* p = window.begin;
+// Captures what follows the first `*count` attributes, and adds to their number. Returns where the tag ends,
+// at its ">" or "/>"; null when it is not plain.
+unsigned char const* c_xml::p_capture_plain_attributes(byte_window window, bool take_declarations,
+                                                       std::size_t* count, int* line_feeds) {
   unsigned char const* const end = window.end;
-  std::size_t count = 0;
-  for (;;) {
-    unsigned char const* name = p + 1;
-    std::size_t name_length = 1;
-    unsigned char quote = '"';
-    const bool is_usual = end - p > 4 && *p == ' ' && p[2] == '=' && p[3] == '"';  // ` A="`
-    if (is_usual) {
-      p += 2;
-    } else {
-      p = skip_space(p, end, line_feeds);
-      if (end - p < 2) return nullptr;
-      if (*p == '>' || (*p == '/' && p[1] == '>')) {
-        m_plain_count = count;
-        return p;
-      }
-      name = p;
-      p = skip_name(p, end);
-      name_length = distance(name, p);
-      if (end - p < 3 || *p != '=') return nullptr;
-      quote = p[1];
-      if (quote != '"' && quote != '\'') return nullptr;
-      if (!take_declarations && declares_namespace(as_chars(name), name_length)) return nullptr;
-    }
-    if (!is_in_class(*name, plain_name_start) || count == most_plain_attributes) return nullptr;
+  for (unsigned char const* p = window.begin;; ++p) {
+    p = skip_space(p, end, line_feeds);
+    if (is_tag_end(p, end)) return p;
+    unsigned char const* const name = p;
+    p = skip_name(p, end);
+    const std::size_t name_length = distance(name, p);
+    if (end - p < 3 || *p != '=' || (p[1] != '"' && p[1] != '\'')) return nullptr;
+    if (!is_in_class(*name, plain_name_start) || *count == most_plain_attributes) return nullptr;
+    if (!take_declarations && declares_namespace(as_chars(name), name_length)) return nullptr;
+    unsigned char const quote = p[1];
     unsigned char const* const value = p + 2;
     p = skip_value(value, end, quote);
-    if (p == end || *p != quote) return nullptr;
-    m_plain[count++] = {as_chars(name), name_length, distance(value, p)};
-    if (++p == end) return nullptr;
+    if (p == end || *p != quote || p + 1 == end) return nullptr;
+    m_plain[(*count)++] = {as_chars(name), name_length, distance(value, p)};
   }
 }
 
@@ -443,10 +465,7 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
     m_attributes.take_name(name);
     return EXE_TOKEN;
   }
-  if (!in_decl) {
-    const elxp_xml_event end = p_take_plain_tag_end();
-    if (end != EXE_UNKNOWN) return end;
-  }
+  if (!in_decl && p_is_at_plain_end()) return p_take_plain_end();
   int c = m_getter.get_non_space();
   if (c == '>') return EXE_START_TAG_END;
   if (c == (in_decl ? '?' : '/')) {

@@ -11,6 +11,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -46,7 +47,11 @@ struct ISOXML_API c_attribute_data {
   std::string m_data;
   std::size_t m_index = 0;  ///< Where the next name, or the opening quote of the next value, stands.
 
-  void clear();
+  void clear() {
+    if (m_data.empty()) return;
+    m_data.clear();
+    m_index = 0;
+  }
   void close() { m_data.push_back('\0'); }
   /// True when the index stands at a name.
   bool has_next() const { return m_index < m_data.size() && m_data[m_index] != '\0'; }
@@ -82,10 +87,7 @@ struct plain_text_view {
 /// `out->assign(name, length)` for the names of a document, which are so short that a call costs more.
 inline void copy_name(std::string* out, char const* name, std::size_t length) {
   if (length == 3) {
-    out->clear();
-    out->push_back(name[0]);
-    out->push_back(name[1]);
-    out->push_back(name[2]);
+    *out = std::string(name, 3);  // a constant length: no call, and no allocation
   } else {
     out->assign(name, length);
   }
@@ -119,10 +121,16 @@ class ISOXML_API c_xml {
   /// What `get_attribute_name` gives where no attribute is left and the tag's end lies in the source's
   /// buffer; else EXE_UNKNOWN, with nothing changed.
   elxp_xml_event take_plain_tag_end(std::string* name) {
-    if (m_plain_next != m_plain_count || m_attributes.has_next()) return EXE_UNKNOWN;
-    elxp_xml_event const end = p_take_plain_tag_end();
-    if (end != EXE_UNKNOWN) name->clear();
-    return end;
+    if (m_plain_next != m_plain_count || !p_is_at_plain_end()) return EXE_UNKNOWN;
+    name->clear();
+    return p_take_plain_end();
+  }
+  /// True, and the end is taken, where that is an EXE_ELEMENT_END.
+  bool take_plain_empty_tag_end(std::string* name) {
+    if (m_plain_next != m_plain_count || !p_is_at_plain_end() || *m_plain_end != '/') return false;
+    name->clear();
+    p_take_plain_end();
+    return true;
   }
   /// The value of the attribute just named, references expanded. False when one can not be; the next
   /// attribute is reached either way.
@@ -135,10 +143,10 @@ class ISOXML_API c_xml {
     if (m_plain_fetches != m_getter.fetches()) return {nullptr, nullptr};
     return {m_plain + m_plain_next, m_plain + m_plain_count};
   }
-  /// Counts the first of them as named and its value as read under `mode`.
-  void take_plain_attribute(elmx_whitespace mode) {
+  /// Counts those before `up_to` as named, at least one, and their values as read: the last under `mode`.
+  void take_plain_attributes(plain_attribute const* up_to, elmx_whitespace mode) {
     m_getter.set_ws_mode(mode);
-    ++m_plain_next;
+    m_plain_next = static_cast<std::size_t>(up_to - m_plain);
   }
   /// The text of the element whose start tag has ended, up to the first tag; comments and instructions
   /// vanish. False with 34 at the end of the input, 23 for a bad "<!", nothing for a bad reference.
@@ -218,18 +226,21 @@ class ISOXML_API c_xml {
   bool p_select_input_entity(std::string* out);
   elxp_xml_event p_get_item(c_xml_local* local, std::string* name);
   elxp_xml_event p_get_plain_item(c_xml_local const* local, std::string* name);
-  elxp_xml_event p_take_plain_tag_end() {
-    byte_window const window = m_getter.plain_window();
-    if (window.end - window.begin < 2) return EXE_UNKNOWN;
-    bool const is_empty = window.begin[0] == '/' && window.begin[1] == '>';
-    if (!is_empty && window.begin[0] != '>') return EXE_UNKNOWN;
-    m_getter.consume_plain(window.begin + (is_empty ? 2 : 1));
+  // True when the last tag was plain and nothing has been read since it was scanned.
+  bool p_is_at_plain_end() const {
+    return m_plain_end != nullptr && m_plain_fetches == m_getter.fetches() && m_getter.stands_at(m_plain_end);
+  }
+  elxp_xml_event p_take_plain_end() {
+    bool const is_empty = *m_plain_end == '/';
+    m_getter.consume_more(m_plain_end + (is_empty ? 2 : 1));
     return is_empty ? EXE_ELEMENT_END : EXE_START_TAG_END;
   }
-  unsigned char const* p_scan_plain_attributes(byte_window window, bool take_declarations, int* line_feeds);
+  unsigned char const* p_capture_plain_attributes(byte_window window, bool take_declarations,
+                                                  std::size_t* count, int* line_feeds);
   bool p_is_plain() const { return m_plain_count != 0 && m_plain_fetches == m_getter.fetches(); }
   void p_copy_plain_attributes();
   void p_forget_plain_attributes() {
+    m_plain_end = nullptr;
     m_plain_count = 0;
     m_plain_next = 0;
     m_plain_value_pending = false;
@@ -261,8 +272,12 @@ class ISOXML_API c_xml {
   plain_attribute m_plain[most_plain_attributes];
   std::size_t m_plain_count = 0;
   std::size_t m_plain_next = 0;
-  bool m_plain_value_pending = false;      // the attribute before `m_plain_next` has only been named
-  unsigned long long m_plain_fetches = 0;  // when the source was asked for more since, they are gone
+  bool m_plain_value_pending = false;  // the attribute before `m_plain_next` has only been named
+  // A name of three letters and what ended it, as they lie in the buffer: those of the last such tag.
+  static constexpr std::size_t plain_name_length = 3;
+  std::uint32_t m_plain_name;
+  unsigned char const* m_plain_end = nullptr;  // where the tag ends, at its ">" or "/>"
+  unsigned long long m_plain_fetches = 0;      // when the source was asked for more since, they are gone
 };
 
 }  // namespace lmx

@@ -114,8 +114,7 @@ int c_xml_reader::tokenise(s_event_map const* map, std::string const& name, elxp
   return m_event;
 }
 
-bool c_xml_reader::p_is_known_element() {
-  if (mp_known_in == mp_known_elements) return true;
+bool c_xml_reader::p_find_known_element() {
   if (find_row(mp_known_elements, m_cracked_name.get_element_ns_id(), m_cracked_name.local_name(),
                m_cracked_name.local_length()) == nullptr) {
     return false;
@@ -160,12 +159,9 @@ int c_xml_reader::get_attribute_event(s_event_map const* map, std::string* name)
   return m_event;
 }
 
-void c_xml_reader::get_element_event(elmx_error* error, std::string* name) {
-  *error = ELMX_OK;
-  bool skipped = false;
-  for (;;) {
-    mp_local->clear_declarations();  // the scope serves every element of this level in turn
-    m_event = get_element_name(mp_local, name);
+// What is left to do for an item that is no known element. Unknown ones are skipped until there is another.
+void c_xml_reader::p_finish_element_event(elmx_error* error, std::string* name) {
+  for (bool skipped = false;; skipped = true) {
     switch (m_event) {
       case EXE_TOKEN: break;
       case EXE_FATAL:
@@ -176,41 +172,24 @@ void c_xml_reader::get_element_event(elmx_error* error, std::string* name) {
         return;
       default: return;
     }
-    p_crack_element_name(*name);
-    if (mp_known_elements == nullptr || p_is_known_element()) return;
+    if (p_is_known_element(*name)) return;
     *error = on_unknown_element(*name, m_name_stack, m_code_file, m_code_line);
     if (*error != ELMX_OK) {
       capture_error(*error, *name, m_code_file, m_code_line);
       return;
     }
-    skipped = true;
     if (!skip_rest_of_element(*name)) {
       *error = ELMX_BADLY_FORMED;
       return;
     }
+    p_next_item(name);
   }
-}
-
-void c_xml_reader::get_element_event(s_event_map const* map, elmx_error* error, std::string* name) {
-  get_element_event(error, name);
-  if (m_event == EXE_TOKEN && map != nullptr) tokenise(map, EXAE_ELEMENT);
 }
 
 int c_xml_reader::get_element_event(s_event_map const* map, std::string* name) {
   elmx_error error;
   get_element_event(map, &error, name);
   return m_event;
-}
-
-void c_xml_reader::get_known_element_event(elmx_error* error, std::string* name) {
-  LMX_ASSERT(mp_known_elements);
-  get_element_event(error, name);
-}
-
-void c_xml_reader::get_known_element_event(s_event_map const* map, elmx_error* error, std::string* name) {
-  LMX_ASSERT(mp_known_elements);
-  get_element_event(error, name);
-  if (m_event == EXE_TOKEN && map != nullptr) tokenise(map, EXAE_ELEMENT);
 }
 
 elmx_error c_xml_reader::ignore_element(s_event_map const* map) {

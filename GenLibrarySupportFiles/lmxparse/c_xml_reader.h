@@ -115,15 +115,35 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
     return true;
   }
 
+  /// The same where that end is "/>".
+  bool take_plain_empty_tag() {
+    if (!take_plain_empty_tag_end(&m_name)) return false;
+    m_event = EXE_ELEMENT_END;
+    return true;
+  }
+
   /// The next item of content. While a table of known elements is selected, an element that it does not
   /// hold is offered to `on_unknown_element` and skipped. `*error` is 0, or why nothing could be read.
-  void get_element_event(elmx_error* error, std::string* name);
+  void get_element_event(elmx_error* error, std::string* name) {
+    *error = ELMX_OK;
+    p_next_item(name);
+    if (m_event != EXE_TOKEN || !p_is_known_element(*name)) p_finish_element_event(error, name);
+  }
   /// The same, and a start tag's name is looked up in `map`, which may be null.
-  void get_element_event(s_event_map const* map, elmx_error* error, std::string* name);
+  void get_element_event(s_event_map const* map, elmx_error* error, std::string* name) {
+    get_element_event(error, name);
+    if (m_event == EXE_TOKEN && map != nullptr) tokenise(map, EXAE_ELEMENT);
+  }
   int get_element_event(s_event_map const* map, std::string* name);
   /// The same, for callers that have selected a table: without one the process stops.
-  void get_known_element_event(elmx_error* error, std::string* name);
-  void get_known_element_event(s_event_map const* map, elmx_error* error, std::string* name);
+  void get_known_element_event(elmx_error* error, std::string* name) {
+    LMX_ASSERT(mp_known_elements);
+    get_element_event(error, name);
+  }
+  void get_known_element_event(s_event_map const* map, elmx_error* error, std::string* name) {
+    LMX_ASSERT(mp_known_elements);
+    get_element_event(map, error, name);
+  }
 
   /// Skips the rest of the element `m_name` (5 when that fails) and reads the next event.
   elmx_error ignore_element(s_event_map const* map);
@@ -205,12 +225,22 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
     return event == EXE_UNKNOWN || event == EXE_TOKEN || event >= EXE_FIRST_USER;
   }
   void p_tokenise(s_event_map const* map, elxp_attr_elem kind);
-  bool p_is_known_element();
+  void p_next_item(std::string* name) {
+    mp_local->clear_declarations();  // the scope serves every element of this level in turn
+    m_event = get_element_name(mp_local, name);
+  }
   void p_crack_element_name(std::string const& name) {
     if (!m_cracked_name.set(mp_local, name)) return;
     mp_known_in = nullptr;
     mp_tokenised_in = nullptr;
   }
+  // Cracks the name. True when no table is selected or the one that is has it.
+  bool p_is_known_element(std::string const& name) {
+    p_crack_element_name(name);
+    return mp_known_elements == nullptr || mp_known_in == mp_known_elements || p_find_known_element();
+  }
+  bool p_find_known_element();
+  void p_finish_element_event(elmx_error* error, std::string* name);
 
   c_xml_reader_local m_root_local;
   s_debug_error m_debug_error;

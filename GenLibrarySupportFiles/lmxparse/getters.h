@@ -105,18 +105,25 @@ class ISOXML_API c_get_as_utf8 {
   }
   /// Takes the bytes of the last `plain_window` before `up_to`.
   void consume_plain(unsigned char const* up_to) {
-    if (up_to == nullptr || up_to == mr_read.mp_next) return;
+    if (up_to != nullptr && up_to != mr_read.mp_next) consume_more(up_to);
+  }
+  /// The same for at least one.
+  void consume_more(unsigned char const* up_to) {
     m_bytes_read += static_cast<unsigned long long>(up_to - mr_read.mp_next);
     mr_read.mp_next = up_to;
     m_last_char = ' ';  // any plain byte: what matters is that it was no CR
+  }
+  /// True while `place`, to which the last `plain_window` was taken, is what will be read next.
+  bool stands_at(unsigned char const* place) const {
+    return mr_read.mp_next == place && !mr_error.has_fatal();
   }
   /// A `plain_window` in which LF may be taken as well: one at its start is not half of a CR LF.
   byte_window line_window() const {
     return m_last_char == '\r' ? byte_window{nullptr, nullptr} : plain_window();
   }
-  /// `consume_plain` for bytes that hold `line_feeds` line feeds.
+  /// `consume_more` for bytes that hold `line_feeds` line feeds.
   void consume_lines(unsigned char const* up_to, int line_feeds) {
-    consume_plain(up_to);
+    consume_more(up_to);
     m_line = line_feeds > std::numeric_limits<int>::max() - m_line ? std::numeric_limits<int>::max()
                                                                    : m_line + line_feeds;
   }

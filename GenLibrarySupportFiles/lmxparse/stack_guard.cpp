@@ -52,6 +52,7 @@ stack_bounds bounds_of_this_thread() {
 }  // namespace
 
 void stack_guard::begin() {
+  m_has_begun = true;
   char const* const now = here();
   stack_bounds const bounds = bounds_of_this_thread();
   mp_lowest =
@@ -60,8 +61,8 @@ void stack_guard::begin() {
           : now - limits::foreign_stack;
 }
 
-bool stack_guard::has_room() {
-  if (mp_lowest == nullptr) begin();
+bool stack_guard::p_has_room() {
+  if (!m_has_begun) begin();
   return here() > mp_lowest;
 }
 

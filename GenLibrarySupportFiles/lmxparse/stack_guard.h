@@ -3,6 +3,8 @@
 // end.
 #pragma once
 
+#include <cstdint>
+
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 
 namespace lmx {
@@ -13,10 +15,14 @@ class ISOXML_API stack_guard {
   /// Takes the bounds of the calling thread's stack. Called where a document begins.
   void begin();
   /// True while there is room for one more level and all that it may call.
-  bool has_room();
+  bool has_room() { return static_cast<char const*>(__builtin_frame_address(0)) > mp_lowest || p_has_room(); }
 
  private:
-  char const* mp_lowest = nullptr;  // no level may begin below this address
+  bool p_has_room();
+
+  // No level may begin below this address: at first all are, so that the first question asks for the bounds.
+  char const* mp_lowest = reinterpret_cast<char const*>(~std::uintptr_t{0});
+  bool m_has_begun = false;
 };
 
 }  // namespace lmx

@@ -355,3 +355,115 @@ TEST(TwoRoads, AgreeOnABlankByReferenceBehindEveryKindOfValue) {
     agree(declaration + "<TSK A=\"TSK1\" G=\"1\"><TZN " + attributes + "/>&#32;<TZN A=\"2\"/></TSK>");
   }
 }
+
+// Decimals of every length around the words they are looked at in, with the point at every place, with and
+// without a sign; then each with a wrong byte at every place.
+TEST(TwoRoads, AgreeOnDecimalsOfEveryShape) {
+  std::string const digits = "1234567890123456789";
+  auto const agree_on = [](std::string const& value) {
+    return agree(declaration + "<PNT A=\"2\" C=\"" + value + "\" D=\"1\"/>") &&
+           agree(declaration + "<PNT A=\"2\" C=\"1\" D=\"" + value + "\"/>");
+  };
+  for (std::size_t length = 1; length != 19; ++length) {
+    for (std::size_t point = 0; point <= length; ++point) {
+      for (char const* const sign : {"", "-"}) {
+        std::string value = digits.substr(0, length);
+        if (point < length) value[point] = '.';
+        if (!agree_on(sign + value)) return;
+        for (std::size_t at = 0; at != length; ++at) {
+          for (char const wrong : {'/', ':', '.', '-', ' ', '0'}) {
+            std::string broken = value;
+            broken[at] = wrong;
+            if (!agree_on(sign + broken)) return;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(TwoRoads, AgreeOnCoordinatesNearTheirLimits) {
+  for (char const letter : {'C', 'D'}) {
+    for (int whole = 0; whole != 200; ++whole) {
+      for (char const* const sign : {"", "-"}) {
+        for (char const* const fraction : {"", ".0", ".000000000", ".000000001", ".999999999", ".12345"}) {
+          for (char const* const zeros : {"", "0"}) {
+            std::string const value = sign + (zeros + std::to_string(whole)) + fraction;
+            std::string const other = letter == 'C' ? " D=\"1\"" : " C=\"1\"";
+            if (!agree(declaration + "<PNT A=\"2\"" + other + ' ' + letter + "=\"" + value + "\"/>")) return;
+          }
+        }
+      }
+    }
+  }
+}
+
+// A value is looked at sixteen bytes at a time. Every byte there is, at the beginning and the end of values
+// around that length.
+TEST(TwoRoads, AgreeOnEveryByteInAValue) {
+  for (const std::size_t length : {1u, 2u, 14u, 15u, 16u, 17u}) {
+    for (const std::size_t at : {std::size_t{0}, length / 2, length - 1}) {
+      for (int byte = 0; byte != 256; ++byte) {
+        std::string value(length, 'x');
+        value[at] = static_cast<char>(byte);
+        for (char const quote : {'"', '\''}) {
+          if (!agree(declaration + "<PNT A=\"2\" B=" + quote + value + quote + " C=\"1\" D=\"1\"/>")) return;
+        }
+      }
+    }
+  }
+}
+
+// The beginning of a usual attribute, with every byte at each of its places.
+TEST(TwoRoads, AgreeOnEveryByteAroundAnAttributesName) {
+  std::string const usual = " B=\"x\" ";
+  for (std::size_t at = 0; at != usual.size(); ++at) {
+    for (int byte = 0; byte != 256; ++byte) {
+      std::string attribute = usual;
+      attribute[at] = static_cast<char>(byte);
+      if (!agree(declaration + "<PNT A=\"2\"" + attribute + "C=\"1\" D=\"1\"/>")) return;
+    }
+  }
+}
+
+// The name of one tag is compared with that of the tag before.
+TEST(TwoRoads, AgreeOnNamesLikeTheOneBefore) {
+  using namespace std::string_literals;
+  std::vector<std::string> const names{"PNT", "PN",  "PNTX", "PNt", "P:N", ":NT",     "1NT",
+                                       "TSK", "TZN", "p:PN", "P",   "",    "\0\0\0"s, "P\0T"s};
+  std::vector<std::string> const rests{" A=\"2\" C=\"1\" D=\"1\"/>",
+                                       "\tA=\"2\"/>",
+                                       "\nA=\"2\"/>",
+                                       "/>",
+                                       "></PNT>",
+                                       "></PNT >",
+                                       " ></PNT>",
+                                       "\0/>"s};
+  for (std::string const& first : names) {
+    for (std::string const& second : names) {
+      for (std::string const& rest : rests) {
+        std::string const siblings = '<' + first + rests.front() + '<' + second + rest + "<PNT A=\"3\"/>";
+        if (!agree(declaration + "<LSG A=\"1\">" + siblings + "</LSG>")) return;
+        if (!agree('<' + second + rest)) return;
+      }
+    }
+  }
+}
+
+// An element that is complete with its start tag, beside the same that is not quite.
+TEST(TwoRoads, AgreeOnElementsThatEndAtOnce) {
+  for (char const* const tag : {"PNT", "TZN", "TIM", "CTR", "LSG", "PLN", "DLV", "XFC", "LGP"}) {
+    for (char const* const attributes :
+         {"", " A=\"1\"", " A=\"1\" C=\"1\" D=\"1\"", " A=\"1\" A=\"1\"", " A=\"1\" Unknown=\"1\"",
+          " A=\"1\" B=\"&amp;\"", " A=\"CTR1\" B=\"x\"", " A=\"0001\" B=\"1\" C=\"DET1\""}) {
+      for (char const* const rest :
+           {"/>", " />", "\n/>", ">", "></", "/ >", "/", "", "/><", ">x</", "><!-- --></"}) {
+        std::string const element = '<' + std::string(tag) + attributes + rest;
+        for (std::string const& whole : {element, element + tag + '>'}) {
+          if (!agree(declaration + whole)) return;
+          if (!agree(declaration + "<TSK A=\"TSK1\" G=\"1\">" + whole + "</TSK>")) return;
+        }
+      }
+    }
+  }
+}

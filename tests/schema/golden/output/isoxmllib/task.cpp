@@ -103,15 +103,16 @@ bool Shelf::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error)
   }
   return false;
 }
-bool Shelf::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Shelf::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_text_8, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Levels, spec_range_1_to_9_uint8, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_text_8, attribute);
+    case 'B': return binding::accept_attribute(m_Levels, spec_range_1_to_9_uint8, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Shelf::has_required_attributes() const { return m_Id.is_set(); }
 lmx::elmx_error Shelf::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "SHF", __LINE__, m_Id.is_set());
+  return check_required(reader, "SHF", __LINE__, has_required_attributes());
 }
 bool Shelf::unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error) { return read_wrappers(reader, mInnerShelf, true, {elem_event_map, "SHF", __LINE__}, error); }
 lmx::elmx_error Shelf::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
@@ -170,7 +171,7 @@ lmx::s_known_elements const Book::known_elements[] = {
 };
 lmx::elmx_error Book::unmarshal(lmx::xmlReader& reader) { return read_document(*this, reader, "BOK", __LINE__); }
 lmx::elmx_error Book::unmarshal(lmx::xmlReader& reader, std::string const& name) {
-  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, false, __LINE__});
+  return read_element(*this, reader, name, {&lmx::c_unmarshal_helper::unmarshal_empty_content, known_elements, true, __LINE__});
 }
 bool Book::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) {
   reader.tokenise(attr_event_map, lmx::EXAE_ATTRIBUTE);
@@ -180,15 +181,16 @@ bool Book::unmarshal_attributes(lmx::xmlReader& reader, lmx::elmx_error* error) 
   }
   return false;
 }
-bool Book::accept_attribute(lmx::xmlReader& reader, lmx::plain_attribute const& attribute) {
+lmx::c_untyped_validation_spec const* Book::accept_attribute(lmx::plain_attribute const& attribute) {
   switch (attribute.letter()) {
-    case 'A': return binding::accept_attribute(reader, m_Id, spec_text_8, attribute);
-    case 'B': return binding::accept_attribute(reader, m_Kind, spec_one_of_1_2, attribute);
+    case 'A': return binding::accept_attribute(m_Id, spec_text_8, attribute);
+    case 'B': return binding::accept_attribute(m_Kind, spec_one_of_1_2, attribute);
   }
-  return false;
+  return nullptr;
 }
+bool Book::has_required_attributes() const { return m_Id.is_set() && m_Kind.is_set(); }
 lmx::elmx_error Book::unmarshal_attributes_check(lmx::xmlReader& reader) {
-  return check_required(reader, "BOK", __LINE__, m_Id.is_set() && m_Kind.is_set());
+  return check_required(reader, "BOK", __LINE__, has_required_attributes());
 }
 bool Book::unmarshal_body(lmx::xmlReader&, lmx::elmx_error*) { return true; }
 lmx::elmx_error Book::marshal(lmx::c_xml_writer& writer, char const* name) const { return write_element(*this, writer, name); }
