@@ -158,7 +158,8 @@ elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* na
   const byte_window window = m_getter.line_window();
   int line_feeds = 0;
   unsigned char const* p = skip_space(window.begin, window.end, &line_feeds);
-  if (window.end - p < 6 || *p != '<') return EXE_UNKNOWN;
+  constexpr std::ptrdiff_t looked_at = 6;  // "</", three letters and what ends them
+  if (window.end - p < looked_at || *p != '<') return EXE_UNKNOWN;
   const bool is_end_tag = *++p == '/';
   if (is_end_tag) ++p;
   unsigned char const* const begin = p;
