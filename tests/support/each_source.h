@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
-#include <utility>
+#include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse/c_read.h"
 #include "support/memory_read.h"
@@ -16,7 +16,8 @@
 /// A document in memory that shows `window` bytes at a time.
 class WindowRead : public lmx::c_read {
  public:
-  WindowRead(std::string bytes, std::size_t window) : m_bytes(std::move(bytes)), m_window(window) {}
+  WindowRead(std::string const& bytes, std::size_t window)
+      : m_bytes(bytes.begin(), bytes.end()), m_window(window) {}
 
   int get() override {
     if (mp_next == mp_end && !fill()) return -1;
@@ -31,13 +32,13 @@ class WindowRead : public lmx::c_read {
  private:
   bool fill() {
     const std::size_t length = std::min(m_window, m_bytes.size() - m_shown);
-    mp_next = reinterpret_cast<unsigned char const*>(m_bytes.data()) + m_shown;
+    mp_next = m_bytes.data() + m_shown;
     mp_end = mp_next + length;
     m_shown += length;
     return length > 0;
   }
 
-  std::string m_bytes;
+  std::vector<unsigned char> const m_bytes;  // without room behind them, so that reading on is noticed
   std::size_t m_window;
   std::size_t m_shown = 0;
 };
