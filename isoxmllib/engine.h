@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "GenLibrarySupportFiles/lmxinternals/bridges.h"
 #include "GenLibrarySupportFiles/lmxinternals/check_tracker.h"
@@ -115,13 +116,15 @@ lmx::elmx_error read_document(X& element, lmx::xmlReader& reader, char const* ta
 
 // ---- Attributes and simple children ----
 
-/// Reads the value of the current attribute into `field`. Always true: the attribute was taken.
+/// Reads the value of the current attribute into `field`. Always true: the attribute was taken. The line for
+/// error records is `line` meanwhile.
 template <template <class, class, class> class Field, class T, class V, class C>
 bool read_attribute(lmx::xmlReader& reader, Field<T, V, C>& field, lmx::c_validation_spec<T> const& spec,
                     int line, lmx::elmx_error* error) {
-  reader.m_code_line = line;
+  int const line_before = std::exchange(reader.m_code_line, line);
   lmx::c_unmarshal_bridge<lmx::xmlReader, Field<T, V, C>, T, V> bridge(reader, spec, field);
   *error = reader.unmarshal_attribute_value_impl(bridge, spec);
+  reader.m_code_line = line_before;
   return true;
 }
 

@@ -55,6 +55,7 @@ bool c_xml_reader::is_valid_qname(std::string const& text) const {
 bool c_xml::get_named_attribute(c_xml_local const* local, int ns_id, std::string const& name,
                                 std::string* value) {
   p_copy_plain_attributes();
+  skip_attribute_value();
   bool found = false;
   std::string attribute, local_name;
   while (!found && m_attributes.has_next()) {
@@ -66,7 +67,7 @@ bool c_xml::get_named_attribute(c_xml_local const* local, int ns_id, std::string
       found = local_name == name && get_ns_id(local, attribute) == ns_id;
     }
     if (found) {
-      found = get_attribute_value(value, EXWS_PRESERVE);
+      found = p_get_captured_value(&m_attributes, value, EXWS_PRESERVE);
       break;
     }
     m_attributes.skip_value();
@@ -229,8 +230,7 @@ bool c_xml::get_nested_element_value(std::string* value, std::string* end_name, 
   value->clear();
   end_name->clear();
   m_getter.set_ws_mode(mode);
-  p_forget_plain_attributes();
-  m_attributes.clear();
+  p_forget_attributes();
   m_ns_attributes.clear();
   std::string data;
   for (;;) {

@@ -108,7 +108,8 @@ void c_xml::rewind() {
   m_declaration_read = false;
   m_doctype_read = false;
   m_past_prolog = false;
-  p_forget_plain_attributes();
+  p_forget_attributes();
+  m_ns_attributes.clear();
   m_getter.rewind();
 }
 
@@ -188,7 +189,7 @@ elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* na
     }
     m_plain_count = count;
     m_plain_next = 0;
-    m_plain_value_pending = false;
+    m_value_pending = false;
     m_plain_end = p;
     m_plain_fetches = m_getter.fetches();
     m_attributes_cut_off = false;
@@ -225,20 +226,22 @@ unsigned char const* c_xml::p_capture_plain_attributes(byte_window window, bool 
 // For those that look at captured attributes as a whole.
 void c_xml::p_copy_plain_attributes() {
   if (m_plain_count == 0) return;
+  const bool value_pending = m_value_pending;
   if (p_is_plain()) {
+    const std::size_t current = value_pending ? m_plain_next - 1 : m_plain_next;
     std::string& data = m_attributes.m_data;
     data.clear();
-    m_attributes.m_index = 0;
     for (std::size_t i = 0; i != m_plain_count; ++i) {
-      if (i == m_plain_next) m_attributes.m_index = data.size();
+      if (i == current && !value_pending) m_attributes.m_index = data.size();
       data.append(m_plain[i].name, m_plain[i].name_length).push_back('\0');
-      if (m_plain_value_pending && i + 1 == m_plain_next) m_attributes.m_index = data.size();
+      if (i == current && value_pending) m_attributes.m_index = data.size();
       data.append(m_plain[i].value() - 1, m_plain[i].value_length + 1).push_back('\0');
     }
-    if (!m_plain_value_pending && m_plain_next == m_plain_count) m_attributes.m_index = data.size();
+    if (current == m_plain_count) m_attributes.m_index = data.size();
     m_attributes.close();
   }
   p_forget_plain_attributes();
+  m_value_pending = value_pending;
 }
 
 elxp_xml_event c_xml::p_get_start_tag(c_xml_local* local, std::string* name, int first) {
@@ -360,8 +363,7 @@ bool c_xml::p_get_xml_text(std::string* out) {
 // ---- Attributes ----
 
 bool c_xml::p_capture_attributes(c_xml_local* local) {
-  p_forget_plain_attributes();
-  m_attributes.clear();
+  p_forget_attributes();
   m_ns_attributes.clear();
   m_attributes_cut_off = false;
   std::string& data = m_attributes.m_data;
@@ -458,15 +460,17 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
   if (plain.begin != plain.end) {
     copy_name(name, plain.begin->name, plain.begin->name_length);
     ++m_plain_next;
-    m_plain_value_pending = true;
+    m_value_pending = true;
     return EXE_TOKEN;
   }
   name->clear();
   if (m_attributes.has_next()) {
     m_attributes.take_name(name);
+    m_value_pending = true;
     return EXE_TOKEN;
   }
   if (!in_decl && p_is_at_plain_end()) return p_take_plain_end();
+  p_forget_attributes();
   int c = m_getter.get_non_space();
   if (c == '>') return EXE_START_TAG_END;
   if (c == (in_decl ? '?' : '/')) {
@@ -479,15 +483,15 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
 }
 
 bool c_xml::get_attribute_value(std::string* out, elmx_whitespace mode) {
-  if (m_plain_value_pending && p_is_plain()) {
-    plain_attribute const& attribute = m_plain[m_plain_next - 1];
-    m_plain_value_pending = false;
-    m_getter.set_ws_mode(mode);
-    out->clear();
-    m_getter.add_run_wsp(out, attribute.value(), attribute.value_length);
-    return true;
-  }
-  return p_get_captured_value(&m_attributes, out, mode);
+  const bool value_pending = m_value_pending;
+  m_value_pending = false;
+  if (value_pending && !p_is_plain()) return p_get_captured_value(&m_attributes, out, mode);
+  out->clear();
+  m_getter.set_ws_mode(mode);
+  if (!value_pending) return false;
+  plain_attribute const& attribute = m_plain[m_plain_next - 1];
+  m_getter.add_run_wsp(out, attribute.value(), attribute.value_length);
+  return true;
 }
 
 // The value at the capture's index, which moves past it whether it can be expanded or not.
@@ -516,11 +520,8 @@ bool c_xml::p_get_captured_value(c_attribute_data* data, std::string* out, elmx_
 }
 
 bool c_xml::skip_attribute_value() {
-  if (m_plain_value_pending && p_is_plain()) {
-    m_plain_value_pending = false;
-    return true;
-  }
-  m_attributes.skip_value();
+  if (m_value_pending && !p_is_plain()) m_attributes.skip_value();
+  m_value_pending = false;
   return true;
 }
 
@@ -575,13 +576,12 @@ bool c_xml::is_element_end_tag(std::string const& name) {
 
 bool c_xml::skip_rest_of_empty_element(std::string const& name) {
   bool is_empty = false;
-  return m_getter.move_to_start_tag_end(&is_empty) && (is_empty || is_element_end_tag(name));
+  return move_to_start_tag_end(&is_empty) && (is_empty || is_element_end_tag(name));
 }
 
 bool c_xml::skip_rest_of_element(std::string const& name) {
   bool is_empty = false;
-  if (!m_getter.move_to_start_tag_end(&is_empty)) return false;
-  p_forget_plain_attributes();
+  if (!move_to_start_tag_end(&is_empty)) return false;
   return is_empty || skip_element_body(name);
 }
 
@@ -604,7 +604,7 @@ bool c_xml::skip_element_body(std::string const& name_in) {
       case EXE_TEXT: break;
       case EXE_TOKEN: {
         bool is_empty = false;
-        if (!m_getter.move_to_start_tag_end(&is_empty)) return false;
+        if (!move_to_start_tag_end(&is_empty)) return false;
         if (is_empty) break;
         offsets.push_back(open_names.size());
         open_names += name;

@@ -132,10 +132,10 @@ class ISOXML_API c_xml {
     p_take_plain_end();
     return true;
   }
-  /// The value of the attribute just named, references expanded. False when one can not be; the next
-  /// attribute is reached either way.
+  /// The value of the attribute just named, references expanded. False when one can not be, and when it has
+  /// been read; the next attribute is reached either way.
   bool get_attribute_value(std::string* out, elmx_whitespace mode);
-  /// Steps over the value of the attribute just named.
+  /// Steps over the value of the attribute just named, if it has not been read.
   bool skip_attribute_value();
   /// The attributes still to be read, when they lie in the source's buffer as they are, their values ASCII
   /// without references and line ends; else none. Borrowed until anything else is read.
@@ -160,8 +160,9 @@ class ISOXML_API c_xml {
   bool skip_rest_of_element(std::string const& name);
   /// The same from behind the start tag.
   bool skip_element_body(std::string const& name);
+  /// Reads to the end of the start tag; see `c_get_for_xml::move_to_start_tag_end`. Its attributes are gone.
   bool move_to_start_tag_end(bool* is_empty) {
-    p_copy_plain_attributes();
+    p_forget_attributes();
     return m_getter.move_to_start_tag_end(is_empty);
   }
   /// Starts the document again.
@@ -196,8 +197,9 @@ class ISOXML_API c_xml {
     return get_ns_id(local, name) == nsid_xsi;
   }
 
-  /// Looks ahead for an attribute of this start tag, from the current one on, and reads its value. The
-  /// attributes then start over, found or not.
+  /// Looks ahead for an attribute of this start tag, behind the one just named, and reads its value. The
+  /// attributes then start over, found or not: asked for in the middle of a loop over them, the loop does
+  /// too.
   bool get_named_attribute(c_xml_local const* local, int ns_id, std::string const& name, std::string* value);
   /// The same for "xsi:type", whose value is itself a name: its namespace id and its local part.
   bool get_xsi_type(c_xml_local const* local, int* ns_id, std::string* type);
@@ -233,6 +235,7 @@ class ISOXML_API c_xml {
   elxp_xml_event p_take_plain_end() {
     bool const is_empty = *m_plain_end == '/';
     m_getter.consume_more(m_plain_end + (is_empty ? 2 : 1));
+    p_forget_plain_attributes();
     return is_empty ? EXE_ELEMENT_END : EXE_START_TAG_END;
   }
   unsigned char const* p_capture_plain_attributes(byte_window window, bool take_declarations,
@@ -243,7 +246,12 @@ class ISOXML_API c_xml {
     m_plain_end = nullptr;
     m_plain_count = 0;
     m_plain_next = 0;
-    m_plain_value_pending = false;
+    m_value_pending = false;
+  }
+  // Attributes are there until their tag ends.
+  void p_forget_attributes() {
+    p_forget_plain_attributes();
+    m_attributes.clear();
   }
   bool p_capture_attributes(c_xml_local* local);
   bool p_capture_declaration(c_xml_local* local, char const* name);
@@ -266,13 +274,13 @@ class ISOXML_API c_xml {
   bool m_past_prolog = false;
   bool m_attributes_cut_off = false;
   c_attribute_data m_attributes;
+  bool m_value_pending = false;  // an attribute has been named, and its value not been read yet
   c_attribute_data m_ns_attributes;
   // In place of `m_attributes`, for a tag that lies in the buffer. More attributes are not plain.
   static constexpr std::size_t most_plain_attributes = 32;
   plain_attribute m_plain[most_plain_attributes];
   std::size_t m_plain_count = 0;
   std::size_t m_plain_next = 0;
-  bool m_plain_value_pending = false;  // the attribute before `m_plain_next` has only been named
   // A name of three letters and what ended it, as they lie in the buffer: those of the last such tag.
   static constexpr std::size_t plain_name_length = 3;
   std::uint32_t m_plain_name;

@@ -24,14 +24,35 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Looks at the value of an unknown attribute before it lets it pass.
+class CuriousReader : public RecordingReader {
+ public:
+  using RecordingReader::RecordingReader;
+
+  lmx::elmx_error on_unknown_attribute(std::string const& name, std::vector<char> const& path,
+                                       char const* file, int line) override {
+    std::string value;
+    const bool has_value = get_attribute_value(&value, lmx::EXWS_PRESERVE);
+    m_values += has_value ? '[' + value + ']' : "none";
+    return RecordingReader::on_unknown_attribute(name, path, file, line);
+  }
+
+  /// The values, in order.
+  std::string const& values() const { return m_values; }
+
+ private:
+  std::string m_values;
+};
+
 /// All that a host can see of a reading, as text.
 std::string seen(lmx::c_read& source, bool strictly) {
   Root root;
-  RecordingReader reader(source, strictly ? strict() : tolerant());
+  CuriousReader reader(source, strictly ? strict() : tolerant());
   const int code = root.unmarshal(reader);
   return "code " + std::to_string(code) + ", line " + std::to_string(reader.line()) + ", last code " +
          std::to_string(reader.error_log().last_code()) + "\nreports " + reader.reports() + "\nrecord " +
-         reader.get_error_message() + "\nunknown " + reader.unknown() + "\n" + written(root);
+         reader.get_error_message() + "\nunknown " + reader.unknown() + "\nvalues " + reader.values() +
+         "\nprogram lines " + reader.program_lines() + '\n' + written(root);
 }
 
 /// Reads `document` on both roads, strictly and tolerantly. False when they differ, which is reported.
@@ -463,6 +484,38 @@ TEST(TwoRoads, AgreeOnElementsThatEndAtOnce) {
           if (!agree(declaration + whole)) return;
           if (!agree(declaration + "<TSK A=\"TSK1\" G=\"1\">" + whole + "</TSK>")) return;
         }
+      }
+    }
+  }
+}
+
+// One reader for two documents, one behind the other: nothing of the first is left for the second.
+TEST(TwoRoads, AgreeOnASecondDocumentOfAReader) {
+  for (char const* const first :
+       {"<TSK A=\"TSK1\" G=\"1\"/>", "<TSK A=\"TSK1\" G=\"1\"><Foo><Bar A=\"TSK3\" G=\"1\"/></Foo></TSK>",
+        "<TSK A=\"TSK1\" G=\"1\"><Foo A=\"TSK3\" G=\"1\"></Bar></TSK>",
+        "<TSK A=\"TSK1\" G=\"1\"><TZN A=\"2\" ?/>"}) {
+    for (char const* const second :
+         {"", "text", "</TSK>", "<TSK/>", "<TSK A=\"TSK2\"/>", "<!-- -->", "&#65;"}) {
+      for (const bool again : {false, true}) {
+        std::string const document = std::string(first) + second;
+        auto const both = [again](lmx::c_read& source) {
+          RecordingReader reader(source, tolerant());
+          std::string text;
+          for (int i = 0; i != 2; ++i) {
+            Task task;
+            const int code = task.unmarshal(reader);
+            text += std::to_string(code) + ' ' + written(task, "TSK") + ' ' + reader.m_name + '\n';
+            if (again) reader.rewind();
+          }
+          return text + reader.reports() + '\n' + reader.unknown() + '\n' + reader.program_lines();
+        };
+        MemoryRead bytes(document);
+        WindowRead whole(document, document.size());
+        WindowRead halves(document, document.size() / 2);
+        std::string const by_bytes = both(bytes);
+        EXPECT_EQ(by_bytes, both(whole)) << document;
+        EXPECT_EQ(by_bytes, both(halves)) << document;
       }
     }
   }

@@ -33,18 +33,22 @@ class RecordingReader : public lmx::xmlReader {
   RecordingReader(lmx::c_read& source, Tolerance tolerance)
       : xmlReader(source), m_tolerance(std::move(tolerance)) {}
 
-  lmx::elmx_error handle_error(lmx::elmx_error code, std::string const& item, char const*, int) override {
+  lmx::elmx_error handle_error(lmx::elmx_error code, std::string const& item, char const*,
+                               int line) override {
     note(m_reports, std::to_string(code) + ' ' + item);
+    note(m_program_lines, std::to_string(line));
     return m_tolerance(code) ? lmx::ELMX_OK : code;
   }
   lmx::elmx_error on_unknown_attribute(std::string const& name, std::vector<char> const& path, char const*,
-                                       int) override {
+                                       int line) override {
     note(m_unknown, names(path) + '@' + name);
+    note(m_program_lines, std::to_string(line));
     return lmx::ELMX_OK;
   }
   lmx::elmx_error on_unknown_element(std::string const& name, std::vector<char> const& path, char const*,
-                                     int) override {
+                                     int line) override {
     note(m_unknown, names(path) + name);
+    note(m_program_lines, std::to_string(line));
     return lmx::ELMX_OK;
   }
 
@@ -52,6 +56,8 @@ class RecordingReader : public lmx::xmlReader {
   std::string const& reports() const { return m_reports; }
   /// Each unknown name behind the elements it stands in, such as "LGP/Foo, LGP/LNK/@x".
   std::string const& unknown() const { return m_unknown; }
+  /// The program's line that came with each of both, in the order they came in.
+  std::string const& program_lines() const { return m_program_lines; }
 
  private:
   static void note(std::string& list, std::string const& entry) {
@@ -66,6 +72,7 @@ class RecordingReader : public lmx::xmlReader {
   const Tolerance m_tolerance;
   std::string m_reports;
   std::string m_unknown;
+  std::string m_program_lines;
 };
 
 /// The outcome of reading `bytes`, with the objects that were filled. The tree outlives the reader.

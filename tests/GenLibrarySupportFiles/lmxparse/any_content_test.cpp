@@ -111,6 +111,18 @@ TEST(NamedAttribute, IsFoundAheadAndTheAttributesStartOver) {
   EXPECT_FALSE(reader.get_named_attribute(reader.mp_local, lmx::nsid_none, "x", &value)) << "only ahead";
 }
 
+TEST(NamedAttribute, IsSoughtBehindTheOneJustNamed) {
+  AtFirstElement at("<a x='1' y='2' z='3'/>");
+  lmx::c_xml_reader& reader = at.reader;
+  std::string value, name;
+  EXPECT_EQ(lmx::EXE_TOKEN, reader.get_attribute_name(&name, false));
+  EXPECT_FALSE(reader.get_named_attribute(reader.mp_local, lmx::nsid_none, "x", &value)) << "it is behind";
+  EXPECT_EQ(lmx::EXE_TOKEN, reader.get_attribute_name(&name, false));
+  EXPECT_EQ("x", name) << "from the first again";
+  EXPECT_TRUE(reader.get_named_attribute(reader.mp_local, lmx::nsid_none, "z", &value));
+  EXPECT_EQ("3", value);
+}
+
 TEST(XsiType, IsSplitIntoNamespaceAndName) {
   AtFirstElement at("<a xmlns:i='http://www.w3.org/2001/XMLSchema-instance' xmlns:p='u' i:type='p:t'/>");
   int id = 0;

@@ -446,6 +446,43 @@ TEST(AttributeValues, AreSkippedUnexpanded) {
   });
 }
 
+TEST(AttributeValues, AreReadOrSteppedOverOnce) {
+  with_xml("<a b='1' c='2' d='3'/>", [](lmx::c_xml& xml, RecordingError&) {
+    std::string name, value;
+    xml.get_element_name(nullptr, &name);
+    xml.get_attribute_name(&name, false);
+    EXPECT_TRUE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
+    EXPECT_EQ("1", value);
+    EXPECT_FALSE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE)) << "it has been read";
+    EXPECT_EQ("", value);
+    EXPECT_TRUE(xml.skip_attribute_value());
+    EXPECT_EQ(lmx::EXE_TOKEN, xml.get_attribute_name(&name, false));
+    EXPECT_EQ("c", name);
+    EXPECT_TRUE(xml.skip_attribute_value());
+    EXPECT_TRUE(xml.skip_attribute_value());
+    EXPECT_FALSE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE)) << "it has been stepped over";
+    EXPECT_EQ(lmx::EXE_TOKEN, xml.get_attribute_name(&name, false));
+    EXPECT_EQ("d", name);
+  });
+}
+
+TEST(AttributeValues, AreGoneWithTheirTag) {
+  for (const bool move_on : {false, true})
+    with_xml("<a b='1'>text</a>", [move_on](lmx::c_xml& xml, RecordingError&) {
+      std::string name, value;
+      xml.get_element_name(nullptr, &name);
+      xml.get_attribute_name(&name, false);
+      if (move_on) {
+        EXPECT_TRUE(xml.move_to_start_tag_end(nullptr));
+      } else {
+        EXPECT_EQ(lmx::EXE_START_TAG_END, (xml.skip_attribute_value(), xml.get_attribute_name(&name, false)));
+      }
+      EXPECT_FALSE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
+      EXPECT_EQ("", value);
+      EXPECT_FALSE(xml.get_named_attribute(nullptr, lmx::nsid_none, "b", &value));
+    });
+}
+
 TEST(AttributeValues, CanBeAskedForWhereThereIsNone) {
   with_xml("<a b='1'/>", [](lmx::c_xml& xml, RecordingError&) {  // before anything was read
     std::string value;
