@@ -479,7 +479,23 @@ TEST(AttributeValues, AreGoneWithTheirTag) {
       }
       EXPECT_FALSE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
       EXPECT_EQ("", value);
-      EXPECT_FALSE(xml.get_named_attribute(nullptr, lmx::nsid_none, "b", &value));
+      for (int i = 0; i != 2; ++i)
+        EXPECT_FALSE(xml.get_named_attribute(nullptr, lmx::nsid_none, "b", &value));
+    });
+}
+
+TEST(AttributeValues, CanBeLookedForBehindTheOneJustNamed) {
+  for (char const* const sought : {"y", "z"})
+    with_xml("<?xml version='1.0'?><a x='1' y='2' z='3'/>", [sought](lmx::c_xml& xml, RecordingError&) {
+      std::string name, value;
+      xml.get_element_name(nullptr, &name);
+      xml.get_attribute_name(&name, false);
+      EXPECT_TRUE(xml.get_named_attribute(nullptr, lmx::nsid_none, sought, &value)) << sought;
+      EXPECT_EQ(*sought == 'y' ? "2" : "3", value);
+      EXPECT_EQ(lmx::EXE_TOKEN, xml.get_attribute_name(&name, false));
+      EXPECT_EQ("x", name) << "the attributes start over";
+      EXPECT_TRUE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
+      EXPECT_EQ("1", value);
     });
 }
 
