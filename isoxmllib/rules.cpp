@@ -98,11 +98,10 @@ bool scan_integer(lmx::plain_text_view text, std::int64_t* value) {
   return true;
 }
 
-bool is_decimal(lmx::plain_text_view text, whole_parts const& range) {
+bool is_decimal(char const* begin, char const* end, whole_parts const& range) {
   constexpr unsigned too_great = 100000000;  // one digit more still fits into the number
-  char const* const end = text.end;
-  bool const is_negative = text.begin != end && *text.begin == '-';
-  char const* const digits = text.begin + (is_negative ? 1 : 0);
+  bool const is_negative = begin != end && *begin == '-';
+  char const* const digits = begin + (is_negative ? 1 : 0);
   char const* p = digits;
   unsigned whole = 0;
   for (; p != end; ++p) {

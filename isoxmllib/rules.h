@@ -176,16 +176,16 @@ inline unsigned digit_at(char const* p) { return static_cast<unsigned char>(*p) 
 
 /// A usual coordinate in the range: one to three whole digits, a point and decimals, at most 15 bytes. False
 /// for any other decimal.
-inline bool is_coordinate(lmx::plain_text_view text, whole_parts const& range) {
+inline bool is_coordinate(char const* begin, char const* end, whole_parts const& range) {
   constexpr std::size_t word = lmx::words::word_size;
   constexpr std::size_t most_bytes = 15;
   constexpr unsigned most_whole_digits = 3;
-  bool const is_negative = text.begin != text.end && *text.begin == '-';
-  char const* const digits = text.begin + (is_negative ? 1 : 0);
-  std::size_t const size = static_cast<std::size_t>(text.end - digits);
+  bool const is_negative = begin != end && *begin == '-';
+  char const* const digits = begin + (is_negative ? 1 : 0);
+  std::size_t const size = static_cast<std::size_t>(end - digits);
   if (size < word || size > most_bytes) return false;
   // A bit for each of the first eight bytes, then for each of the last: some may have two.
-  unsigned const others = lmx::words::no_digits(digits, text.end - word);
+  unsigned const others = lmx::words::no_digits(digits, end - word);
   unsigned const first_others = others & 0xFF;
   if (first_others == 0 || (first_others & (first_others - 1)) != 0) return false;
   unsigned const point = static_cast<unsigned>(__builtin_ctz(first_others));
@@ -201,11 +201,15 @@ inline bool is_coordinate(lmx::plain_text_view text, whole_parts const& range) {
 }
 
 /// The same for a decimal of any length, without "+" and leading zeros.
-bool is_decimal(lmx::plain_text_view text, whole_parts const& range);
+bool is_decimal(char const* begin, char const* end, whole_parts const& range);
 
-inline bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view text, whole_parts const& range) {
-  if (!is_coordinate(text, range) && !is_decimal(text, range)) return false;
-  value.set_canonical(text.begin, text.end);
+// The text goes on as two pointers: a copy of both at once would wait for the stores of each.
+inline bool accept_decimal(lmx::c_decimal& value, lmx::plain_text_view const& text,
+                           whole_parts const& range) {
+  char const* const begin = text.begin;
+  char const* const end = text.end;
+  if (!is_coordinate(begin, end, range) && !is_decimal(begin, end, range)) return false;
+  value.set_canonical(begin, end);
   return true;
 }
 

@@ -76,8 +76,8 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   virtual elmx_error handle_error(elmx_error code, std::string const& item, char const* file, int line);
   /// Stores the last captured error in the format of `s_debug_error::to_stream`, and returns `*text`.
   virtual std::string& get_error_message(std::string* text) const;
-  /// Called for an attribute that no table has; it is skipped unless the result is a code. `path` holds the
-  /// names of the open elements, each closed by a NUL.
+  /// Called for an attribute that no table has, whose value may be read here; it is skipped unless the result
+  /// is a code. `path` holds the names of the open elements, each closed by a NUL.
   virtual elmx_error on_unknown_attribute(std::string const& name, std::vector<char> const& path,
                                           char const* file, int line);
   /// The same for an element, which is skipped with its content.
