@@ -43,7 +43,7 @@ READERS = [
     ("libxml2_sax", "libxml2 SAX", "events", 100 * MB, set()),
     ("expat", "expat", "events", 100 * MB, set()),
 ]
-ROUNDS = {1 * MB: 7, 10 * MB: 5, 100 * MB: 3}  # processes of each program
+ROUNDS = {1 * MB: 9, 10 * MB: 15, 100 * MB: 3}  # processes of each program
 JOBS = {1 * MB: 5, 10 * MB: 3, 100 * MB: 3}  # in each process; the first one is cold
 GROWTH_ROUNDS = 5
 START_ROUNDS = 41
