@@ -11,37 +11,85 @@ int c_enumerated_namespaces::find_namespace(std::string const& uri) const {
 
 char const* c_enumerated_namespaces::find_namespace_from_id(int id) const {
   if (id == nsid_none) return c_xml::k_non_namespace.c_str();
-  for (auto const& [uri, uri_id] : m_ids.entries()) {
-    if (uri_id == id) return uri.c_str();
-  }
-  return nullptr;
+  auto const place = m_places.find(id);
+  return place == m_places.end() ? nullptr : m_ids.entries()[place->second].first.c_str();
+}
+
+// The id of `uri`, which becomes `id` if it is new.
+int c_enumerated_namespaces::p_find_or_add(char const* uri, int id) {
+  const std::size_t size = m_ids.size();
+  const int found = m_ids.find_or_add(uri, id);
+  if (m_ids.size() != size) m_places.emplace(id, size);
+  return found;
 }
 
 int c_enumerated_namespaces::add_namespace(char const* uri) {
-  const int id = m_ids.find_or_add(uri, m_next_id);
+  const int id = p_find_or_add(uri, m_next_id);
   if (id == m_next_id) ++m_next_id;  // new: those given out before are below
   return id;
 }
 
 void c_enumerated_namespaces::add_namespace(char const* uri, int id) {
-  m_ids.find_or_add(uri, id);
+  p_find_or_add(uri, id);
   if (m_next_id <= id) m_next_id = id + 1;
 }
 
 void c_enumerated_namespaces::clear() {
   m_ids.clear();
+  m_places.clear();
   m_next_id = nsid_first_user;
-  m_ids.set("http://www.w3.org/2001/XMLSchema-instance", nsid_xsi);
-  m_ids.set("http://www.w3.org/XML/1998/namespace", nsid_xml);
+  p_find_or_add("http://www.w3.org/2001/XMLSchema-instance", nsid_xsi);
+  p_find_or_add("http://www.w3.org/XML/1998/namespace", nsid_xml);
 }
+
+// ---- namespace_bindings ----
+
+namespace detail {
+
+int const* namespace_bindings::find(std::string const& prefix) const {
+  std::size_t const* const slot = m_slots.find(prefix);
+  return slot == nullptr ? nullptr : p_id_in(*slot);
+}
+
+void namespace_bindings::bind(std::string const& prefix, int id) {
+  const std::size_t slot = p_slot(prefix);
+  if (slot == m_now.size()) m_now.push_back(unbound);
+  m_bindings.push_back({slot, m_now[slot]});
+  m_now[slot] = id;
+}
+
+void namespace_bindings::unbind(std::size_t count) {
+  for (; count != 0; --count) {
+    m_now[m_bindings.back().slot] = m_bindings.back().id_before;
+    m_bindings.pop_back();
+  }
+  if (!m_bindings.empty()) return;
+  m_slots.clear();  // as many as were bound since: a document's prefixes are not kept for its whole length
+  m_now.resize(1);
+}
+
+}  // namespace detail
+
+// ---- c_xml_local ----
 
 int c_xml_local::find_namespace_id(std::string const& prefix) const {
   if (prefix.empty()) return default_namespace_id();
   if (prefix == "xml") return nsid_xml;
+  int const* const id = p_has_bindings() ? mp_outermost->mp_bindings->find(prefix) : p_walk_to(prefix);
+  return id == nullptr ? static_cast<int>(nsid_not_found) : *id;
+}
+
+int c_xml_local::p_default_namespace_id() const {
+  int const* const id =
+      p_has_bindings() ? mp_outermost->mp_bindings->find_default() : p_walk_to(std::string());
+  return id == nullptr ? static_cast<int>(nsid_none) : *id;
+}
+
+int const* c_xml_local::p_walk_to(std::string const& prefix) const {
   for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
-    if (int const* const id = scope->m_ids.find(prefix)) return *id;
+    if (int const* const id = scope->m_ids.find(prefix)) return id;
   }
-  return nsid_not_found;
+  return nullptr;
 }
 
 // This scope's own entry.
@@ -71,25 +119,54 @@ char const* c_xml_local::find_first_namespace_prefix(int id) const {
 
 // Outermost first, so that inner declarations come later and override.
 void c_xml_local::extract_namespace_context(c_namespace_context* context, c_xml const& xml) const {
+  auto& items = context->m_items;
+  c_repository<std::size_t> places;
+  for (std::size_t i = 0; i != items.size(); ++i) places.find_or_add(items[i].m_prefix, i);
   std::vector<c_xml_local const*> scopes;
   for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards())
     scopes.push_back(scope);
   for (auto scope = scopes.rbegin(); scope != scopes.rend(); ++scope) {
     for (auto const& [prefix, id] : (*scope)->m_ids.entries()) {
       char const* const uri = xml.find_namespace_from_id(id);
-      auto& items = context->m_items;
-      std::size_t i = 0;
-      while (i != items.size() && items[i].m_prefix != prefix) ++i;
-      if (i == items.size()) items.push_back({prefix, std::string()});
-      items[i].m_uri = uri == nullptr ? "" : uri;
+      const std::size_t place = places.find_or_add(prefix, items.size());
+      if (place == items.size()) items.push_back({prefix, std::string()});
+      items[place].m_uri = uri == nullptr ? "" : uri;
     }
   }
 }
 
 void c_xml_local::add_namespace(char const* prefix, int id) {
+  const std::size_t size = m_ids.size();
   m_ids.set(prefix, id);
-  if (*prefix == '\0') m_default_id = id;
   mp_nearest = this;
+  if (mp_outermost->mp_innermost != this) p_leave_order();
+  if (!mp_outermost->m_in_order) return;
+  try {
+    auto& bindings = mp_outermost->mp_bindings;
+    if (bindings == nullptr) bindings = std::make_unique<detail::namespace_bindings>();
+    if (m_ids.size() == size) {
+      bindings->rebind(prefix, id);
+    } else {
+      bindings->bind(prefix, id);
+    }
+  } catch (...) {
+    p_leave_order();  // half a binding must not be taken back
+    throw;
+  }
+}
+
+void c_xml_local::p_clear_declarations() {
+  if (p_has_bindings()) {
+    mp_outermost->mp_bindings->unbind(m_ids.size());
+  } else {
+    p_leave_order();
+  }
+  m_ids.clear();
+}
+
+void c_xml_local::p_leave_order() {
+  mp_outermost->m_in_order = false;
+  mp_outermost->mp_bindings.reset();
 }
 
 void c_cracked_name::p_take_name(std::string const& name) {

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -44,8 +46,11 @@ class ISOXML_API c_enumerated_namespaces {
   void clear();
 
  private:
+  int p_find_or_add(char const* uri, int id);
+
   int m_next_id = nsid_first_user;
   c_repository<int> m_ids;
+  std::unordered_map<int, std::size_t> m_places;  // of the first URI of each id
 };
 
 /// One prefix and what it stands for.
@@ -68,6 +73,44 @@ struct ISOXML_API c_any_info {
 };
 
 class c_xml;
+class c_xml_local;
+
+namespace detail {
+
+/// What each prefix stands for in the innermost of the scopes that nest in one another: one look instead of a
+/// walk through all of them, of which a document chooses the number.
+class namespace_bindings {
+ public:
+  /// What `prefix` stands for; null when nothing binds it.
+  int const* find(std::string const& prefix) const;
+  /// Binds `prefix` until `unbind`.
+  void bind(std::string const& prefix, int id);
+  /// Binds a prefix that the innermost scope has bound already.
+  void rebind(std::string const& prefix, int id) { m_now[p_slot(prefix)] = id; }
+  /// What the empty prefix stands for; null when nothing binds it.
+  int const* find_default() const { return p_id_in(default_slot); }
+  /// Takes the last `count` bindings back.
+  void unbind(std::size_t count);
+
+ private:
+  struct binding {
+    std::size_t slot;
+    int id_before;
+  };
+  static constexpr std::size_t default_slot = 0;
+  static constexpr int unbound = -1;  // no id
+
+  std::size_t p_slot(std::string const& prefix) {
+    return prefix.empty() ? default_slot : m_slots.find_or_add(prefix, m_now.size());
+  }
+  int const* p_id_in(std::size_t slot) const { return m_now[slot] == unbound ? nullptr : &m_now[slot]; }
+
+  c_repository<std::size_t> m_slots;  // of each prefix that has been bound
+  std::vector<int> m_now{unbound};    // what it stands for, in its slot
+  std::vector<binding> m_bindings;    // in the order they were made
+};
+
+}  // namespace detail
 
 /// One scope of prefix declarations. Scopes nest on the stack of the code that reads elements.
 class ISOXML_API c_xml_local {
@@ -75,7 +118,17 @@ class ISOXML_API c_xml_local {
   c_xml_local() = default;
   /// A scope inside `parent`, which must outlive it.
   explicit c_xml_local(c_xml_local* parent)
-      : mp_parent(parent), mp_nearest(parent == nullptr ? nullptr : parent->mp_nearest) {}
+      : mp_parent(parent),
+        mp_nearest(parent == nullptr ? nullptr : parent->mp_nearest),
+        mp_outermost(parent == nullptr ? this : parent->mp_outermost) {
+    if (parent != nullptr && mp_outermost->mp_innermost != parent) p_leave_order();
+    mp_outermost->mp_innermost = this;
+  }
+  ~c_xml_local() {
+    if (!m_ids.empty()) clear_declarations();
+    if (mp_outermost->mp_innermost != this) p_leave_order();
+    mp_outermost->mp_innermost = mp_parent;
+  }
   c_xml_local(c_xml_local const&) = delete;
   c_xml_local& operator=(c_xml_local const&) = delete;
 
@@ -93,16 +146,11 @@ class ISOXML_API c_xml_local {
   void add_namespace(char const* prefix, int id);
   /// The id of names without a prefix: that of the default namespace, 1 when there is none.
   int default_namespace_id() const {
-    for (c_xml_local const* scope = mp_nearest; scope != nullptr; scope = scope->p_next_outwards()) {
-      if (scope->m_default_id != undeclared) return scope->m_default_id;
-    }
-    return nsid_none;
+    return mp_nearest == nullptr ? static_cast<int>(nsid_none) : p_default_namespace_id();
   }
   /// Forgets this scope's own declarations.
   void clear_declarations() {
-    if (m_ids.empty()) return;
-    m_ids.clear();
-    m_default_id = undeclared;
+    if (!m_ids.empty()) p_clear_declarations();
   }
 
  protected:
@@ -114,11 +162,23 @@ class ISOXML_API c_xml_local {
     return mp_parent == nullptr ? nullptr : mp_parent->mp_nearest;
   }
   char const* p_find_prefix(int id) const;
-
-  static constexpr int undeclared = -1;
+  int const* p_walk_to(std::string const& prefix) const;
+  int p_default_namespace_id() const;
+  void p_clear_declarations();
+  // True while the outermost scope's bindings tell what holds in this one.
+  bool p_has_bindings() const {
+    return mp_outermost->mp_innermost == this && mp_outermost->m_in_order &&
+           mp_outermost->mp_bindings != nullptr;
+  }
+  void p_leave_order();
 
   c_repository<int> m_ids;
-  int m_default_id = undeclared;  // what `m_ids` has for the empty prefix
+  c_xml_local* const mp_outermost = this;
+  // Of the outermost scope alone. Readers open and close scopes like brackets, and only the innermost
+  // declares anything; where a host does otherwise, the scopes are walked through from then on.
+  c_xml_local* mp_innermost = this;
+  bool m_in_order = true;
+  std::unique_ptr<detail::namespace_bindings> mp_bindings;
 };
 
 namespace detail {

@@ -344,6 +344,18 @@ std::vector<Hostile> in_number() {
        [] { return task("", "<Foo>" + numbered("<Bar xmlns:p#=\"u#\"/>", 100000) + "</Foo>"); }, 0, ""},
       {"AHundredThousandTimesTheSamePrefix", [] { return task(numbered(" xmlns:p=\"u#\"", 100000), ""); }, 0,
        ""},
+      {"AHundredThousandLooksOutwardsThroughManyScopes",
+       [] {
+         std::string scopes, ends;
+         for (int i = 0; i != 900; ++i) {
+           scopes += "<PDV A=\"0001\" B=\"1\" xmlns:p" + std::to_string(i) + "=\"u\">";
+           ends += "</PDV>";
+         }
+         return task(" xmlns:q=\"v\"", "<TZN A=\"1\">" + scopes +
+                                           repeated("<PDV A=\"0001\" B=\"1\" q:x=\"1\"/>", 100000) + ends +
+                                           "</TZN>");
+       },
+       0, ""},
       {"AMillionComments", [] { return task("", repeated("<!---->", million)); }, 0, ""},
       {"AMillionReferencesInText",
        [] { return task("", "<P917_comment>" + repeated("&lt;", million) + "</P917_comment>"); }, 0, ""},

@@ -4,8 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <memory>
 #include <ostream>
+#include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse/c_xml_reader.h"
 #include "support/each_source.h"
@@ -106,6 +111,85 @@ TEST(Scope, LooksOutwardsOnceItsOwnDeclarationsAreGone) {
   EXPECT_EQ(1000, inner.find_namespace_id("p"));
   inner.add_namespace("p", 1002);
   EXPECT_EQ(1002, inner.find_namespace_id("p"));
+}
+
+TEST(Scope, DeclarationsOfAnOuterOneCountWhereItHadSomeBefore) {
+  lmx::c_xml_local bare, bound;
+  bound.add_namespace("q", 1000);
+  const lmx::c_xml_local in_bare(&bare), in_bound(&bound);
+  for (lmx::c_xml_local* const scope : {&bare, &bound}) scope->add_namespace("p", 1001);
+  EXPECT_EQ(0, in_bare.find_namespace_id("p"));
+  EXPECT_EQ(1001, in_bound.find_namespace_id("p"));
+  EXPECT_EQ(1001, bare.find_namespace_id("p"));
+}
+
+// What a scope is told to do, on paper: each looks through its own declarations and then through those
+// outside.
+struct ModelScope {
+  ModelScope* parent = nullptr;
+  ModelScope* nearest = nullptr;
+  std::vector<std::pair<std::string, int>> ids;
+
+  explicit ModelScope(ModelScope* outer)
+      : parent(outer), nearest(outer == nullptr ? nullptr : outer->nearest) {}
+  void declare(std::string const& prefix, int id) {
+    nearest = this;
+    for (auto& [known, known_id] : ids) {
+      if (known == prefix) {
+        known_id = id;
+        return;
+      }
+    }
+    ids.emplace_back(prefix, id);
+  }
+  int find(std::string const& prefix) const {
+    for (ModelScope const* scope = nearest; scope != nullptr;
+         scope = scope->parent == nullptr ? nullptr : scope->parent->nearest) {
+      for (auto const& [known, id] : scope->ids) {
+        if (known == prefix) return id;
+      }
+    }
+    return prefix.empty() ? 1 : 0;
+  }
+};
+
+// Readers open and close scopes like brackets and declare in the innermost. A host may do as it likes.
+TEST(Scope, FindsWhatAWalkThroughAllFindsInWhateverOrderTheyAreUsed) {
+  std::mt19937 random(1000);
+  const auto below = [&random](std::size_t limit) { return random() % limit; };
+  for (const std::size_t disorder : {0u, 20u, 3u}) {
+    for (int round = 0; round != 300; ++round) {
+      std::vector<std::unique_ptr<lmx::c_xml_local>> scopes;
+      std::vector<std::unique_ptr<ModelScope>> models;
+      for (int step = 0; step != 200; ++step) {
+        const bool anywhere = disorder != 0 && below(disorder) == 0;
+        const std::size_t count = scopes.size();
+        const std::size_t at = count == 0 ? 0 : anywhere ? below(count) : count - 1;
+        const std::string prefix = std::string("pqrst").substr(0, below(6)).substr(0, 2);
+        const std::size_t action = count == 0 ? 0 : below(8);
+        if (action == 0) {
+          scopes.push_back(std::make_unique<lmx::c_xml_local>(count == 0 ? nullptr : scopes[at].get()));
+          models.push_back(std::make_unique<ModelScope>(count == 0 ? nullptr : models[at].get()));
+        } else if (action == 1 && count > 1) {
+          scopes.pop_back();
+          models.pop_back();
+        } else if (action == 2) {
+          scopes[at]->clear_declarations();
+          models[at]->ids.clear();
+        } else if (action < 6) {
+          scopes[at]->add_namespace(prefix.c_str(), 1000 + step);
+          models[at]->declare(prefix, 1000 + step);
+        } else {
+          const std::size_t looked_at = below(count);
+          for (char const* const sought : {"", "p", "pq"}) {
+            ASSERT_EQ(models[looked_at]->find(sought), scopes[looked_at]->find_namespace_id(sought));
+            ASSERT_EQ(models.back()->find(sought), scopes.back()->find_namespace_id(sought));
+          }
+        }
+      }
+      while (!scopes.empty()) scopes.pop_back();  // the inner ones first
+    }
+  }
 }
 
 TEST(Scope, NeverRebindsThePrefixXml) {
