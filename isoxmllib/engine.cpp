@@ -40,7 +40,7 @@ lmx::elmx_error check_required(lmx::xmlReader& reader, char const* tag, int line
 
 bool is_member(lmx::xmlReader& reader, lmx::s_event_map const* map) {
   int const event = reader.m_event;
-  reader.tokenise(map, lmx::EXAE_ELEMENT);
+  constant_tables::tokenise(reader, map);
   if (reader.m_event >= lmx::EXE_FIRST_USER) return true;
   reader.m_event = event;
   return false;
@@ -52,7 +52,8 @@ bool report(lmx::xmlReader& reader, lmx::elmx_error code, place const& at, lmx::
 }
 
 bool next_event(lmx::xmlReader& reader, place const& at, lmx::elmx_error* error) {
-  reader.get_known_element_event(at.map, error, &reader.m_name);
+  reader.get_known_element_event(error, &reader.m_name);
+  if (reader.m_event == lmx::EXE_TOKEN) constant_tables::tokenise(reader, at.map);
   return *error == lmx::ELMX_OK || report(reader, *error, at, error);
 }
 

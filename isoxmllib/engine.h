@@ -25,6 +25,48 @@ namespace binding {
 /// Error records name the library's element classes by this one file name.
 inline constexpr char const code_file[] = "isoxmllib";
 
+// ---- Tables ----
+
+/// Looks names up in the tables of the element classes. They stand where they are as long as the library
+/// does, so what was found for a name holds for each sibling of that name; a host's tables are looked through
+/// each time.
+class constant_tables {
+ public:
+  /// `c_xml_reader::tokenise` for elements.
+  static void tokenise(lmx::c_xml_reader& reader, lmx::s_event_map const* map) {
+    if (!lmx::c_xml_reader::p_is_name_event(reader.m_event)) return;
+    if (map == reader.mp_tokenised_in) {
+      reader.m_event = reader.m_tokenised_event;
+      return;
+    }
+    reader.p_tokenise(map, lmx::EXAE_ELEMENT);
+    reader.mp_tokenised_in = map;
+    reader.m_tokenised_event = reader.m_event;
+  }
+
+  /// `c_known_elements_selector`; a null table leaves the one in force.
+  class selector {
+   public:
+    selector(lmx::c_xml_reader& reader, lmx::s_known_elements const* known)
+        : mr_reader(reader),
+          mp_known_before(reader.mp_known_elements),
+          mp_constant_before(reader.mp_constant_known) {
+      if (known != nullptr) reader.mp_known_elements = reader.mp_constant_known = known;
+    }
+    ~selector() {
+      mr_reader.mp_known_elements = mp_known_before;
+      mr_reader.mp_constant_known = mp_constant_before;
+    }
+    selector(selector const&) = delete;
+    selector& operator=(selector const&) = delete;
+
+   private:
+    lmx::c_xml_reader& mr_reader;
+    lmx::s_known_elements const* const mp_known_before;
+    lmx::s_known_elements const* const mp_constant_before;
+  };
+};
+
 // ---- Elements ----
 
 /// An element whose children must not be missing is refused with 32 when it is empty and with 21 when it
@@ -88,9 +130,7 @@ lmx::elmx_error read_element(X& element, lmx::xmlReader& reader, std::string con
   bool const is_complete = shape.empty_allowed && attribute == end && element.has_required_attributes() &&
                            reader.take_plain_empty_tag();
   if (!is_complete) {
-    lmx::s_known_elements const* const known =
-        shape.known_elements != nullptr ? shape.known_elements : reader.mp_known_elements;
-    lmx::c_known_elements_selector const selector(reader, known);
+    constant_tables::selector const selector(reader, shape.known_elements);
     element_helper<X> helper(element, reader);
     helper.m_empty_allowed = shape.empty_allowed;
     error = (helper.*shape.read_content)(code_file, shape.line);
@@ -186,7 +226,7 @@ bool read_simple_child(lmx::xmlReader& reader, Field& field, lmx::c_validation_s
 template <class W>
 bool read_wrappers(lmx::xmlReader& reader, lmx::ct_complex_multi<W>& wrappers, bool at_least_one,
                    place const& at, lmx::elmx_error* error) {
-  reader.tokenise(at.map, lmx::EXAE_ELEMENT);
+  constant_tables::tokenise(reader, at.map);
   if (at_least_one && !W::IsMember(reader) &&
       !report(reader, lmx::ELMX_MANDATORY_ELEMENT_MISSING, at, error)) {
     return false;
@@ -195,7 +235,7 @@ bool read_wrappers(lmx::xmlReader& reader, lmx::ct_complex_multi<W>& wrappers, b
     reader.m_code_line = at.line;
     wrappers.append().unmarshal(reader, error);
     if (*error != lmx::ELMX_OK) return false;
-    reader.tokenise(at.map, lmx::EXAE_ELEMENT);
+    constant_tables::tokenise(reader, at.map);
   }
   return !at_least_one || !wrappers.empty() || report(reader, lmx::ELMX_MANDATORY_ELEMENT_MISSING, at, error);
 }
@@ -204,12 +244,12 @@ bool read_wrappers(lmx::xmlReader& reader, lmx::ct_complex_multi<W>& wrappers, b
 template <class W>
 bool read_wrapper(lmx::xmlReader& reader, lmx::ct_complex_optional<W>& wrapper, place const& at,
                   lmx::elmx_error* error) {
-  reader.tokenise(at.map, lmx::EXAE_ELEMENT);
+  constant_tables::tokenise(reader, at.map);
   if (!W::IsMember(reader)) return true;
   reader.m_code_line = at.line;
   wrapper.get_or_create().unmarshal(reader, error);
   if (*error != lmx::ELMX_OK) return false;
-  reader.tokenise(at.map, lmx::EXAE_ELEMENT);
+  constant_tables::tokenise(reader, at.map);
   return true;
 }
 
@@ -254,7 +294,7 @@ bool read_run(lmx::xmlReader& reader, lmx::ct_complex_multi<Y>& run, int event, 
 template <class Y>
 bool read_list(lmx::xmlReader& reader, lmx::ct_complex_multi<Y>& list, int event, place const& at,
                lmx::elmx_error* error) {
-  reader.tokenise(at.map, lmx::EXAE_ELEMENT);
+  constant_tables::tokenise(reader, at.map);
   return read_run(reader, list, event, at, error);
 }
 
@@ -281,7 +321,7 @@ lmx::elmx_error read_any_document(Choice& choice, lmx::xmlReader& reader, lmx::s
                                   lmx::s_known_elements const* known_elements, int line) {
   begin_document(reader);
   lmx::c_xml_reader_local const scope(reader);
-  lmx::c_known_elements_selector const selector(reader, known_elements);
+  constant_tables::selector const selector(reader, known_elements);
   lmx::elmx_error error;
   reader.get_known_element_event(map, &error, &reader.m_name);
   if (error != lmx::ELMX_OK) {

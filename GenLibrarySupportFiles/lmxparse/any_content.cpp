@@ -231,7 +231,6 @@ bool c_xml::get_nested_element_value(std::string* value, std::string* end_name, 
   end_name->clear();
   m_getter.set_ws_mode(mode);
   p_forget_attributes();
-  m_ns_attributes.clear();
   std::string data;
   for (;;) {
     switch (p_get_any_tag_data(&data)) {

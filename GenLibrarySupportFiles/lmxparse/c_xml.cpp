@@ -98,6 +98,7 @@ c_xml::c_xml(c_read& read, c_error& error, bool normalize_char_refs)
     : m_getter(read, error, normalize_char_refs),
       m_internal_dtd(m_getter),
       m_plain_name(words::load_4("PNT ")) {
+  m_getter.set_tenant(&m_tenant);
   m_attributes.m_data.reserve(usual_attribute_bytes);
   m_ns_attributes.m_data.reserve(usual_attribute_bytes);
 }
@@ -109,7 +110,6 @@ void c_xml::rewind() {
   m_doctype_read = false;
   m_past_prolog = false;
   p_forget_attributes();
-  m_ns_attributes.clear();
   m_getter.rewind();
 }
 
@@ -176,27 +176,27 @@ elxp_xml_event c_xml::p_get_plain_item(c_xml_local const* local, std::string* na
   } else {
     // What stops the name is pushed back, and a line end would then count twice.
     if (p == window.end || *p == '\n') return EXE_UNKNOWN;
-    m_attributes.clear();
-    m_ns_attributes.clear();
     std::size_t count = 0;
     p = capture_usual_attributes(p, window.end, m_plain, most_plain_attributes, &count);
     if (!is_tag_end(p, window.end)) {
       p = p_capture_plain_attributes({p, window.end}, local == nullptr, &count, &line_feeds);
       if (p == nullptr) {
-        p_forget_plain_attributes();
+        // With a place of theirs gone, the attributes of the tag before are; the other road forgets them too.
+        if (count != 0) m_plain_next = m_plain_count = 0;
         return EXE_UNKNOWN;
       }
     }
+    m_attributes.clear();
+    m_ns_attributes.clear();
     m_plain_count = count;
     m_plain_next = 0;
     m_value_pending = false;
-    m_plain_end = p;
-    m_plain_fetches = m_getter.fetches();
     m_attributes_cut_off = false;
     if (length == plain_name_length) m_plain_name = words::load_4(begin);
   }
   copy_name(name, as_chars(begin), length);
   m_getter.consume_lines(p, line_feeds);
+  if (!is_end_tag) m_getter.set_mark();
   m_past_prolog = true;
   return is_end_tag ? EXE_ELEMENT_END : EXE_TOKEN;
 }
@@ -223,25 +223,19 @@ unsigned char const* c_xml::p_capture_plain_attributes(byte_window window, bool 
   }
 }
 
-// For those that look at captured attributes as a whole.
-void c_xml::p_copy_plain_attributes() {
-  if (m_plain_count == 0) return;
-  const bool value_pending = m_value_pending;
-  if (p_is_plain()) {
-    const std::size_t current = value_pending ? m_plain_next - 1 : m_plain_next;
-    std::string& data = m_attributes.m_data;
-    data.clear();
-    for (std::size_t i = 0; i != m_plain_count; ++i) {
-      if (i == current && !value_pending) m_attributes.m_index = data.size();
-      data.append(m_plain[i].name, m_plain[i].name_length).push_back('\0');
-      if (i == current && value_pending) m_attributes.m_index = data.size();
-      data.append(m_plain[i].value() - 1, m_plain[i].value_length + 1).push_back('\0');
-    }
-    if (current == m_plain_count) m_attributes.m_index = data.size();
-    m_attributes.close();
+void c_xml::p_do_copy_plain_attributes() {
+  std::string& data = m_attributes.m_data;
+  data.clear();
+  for (std::size_t i = 0; i != m_plain_count; ++i) {
+    if (i == m_plain_next) m_attributes.m_index = data.size();
+    data.append(m_plain[i].name, m_plain[i].name_length).push_back('\0');
+    data.append(m_plain[i].value() - 1, m_plain[i].value_length + 1).push_back('\0');
   }
-  p_forget_plain_attributes();
-  m_value_pending = value_pending;
+  if (m_plain_next == m_plain_count) m_attributes.m_index = data.size();
+  m_attributes.close();
+  m_plain_count = 0;
+  m_plain_next = 0;
+  m_getter.forget_mark();  // the end is for those who have taken all attributes
 }
 
 elxp_xml_event c_xml::p_get_start_tag(c_xml_local* local, std::string* name, int first) {
@@ -265,9 +259,8 @@ elxp_xml_event c_xml::p_get_end_tag(std::string* name) {
 
 elxp_xml_event c_xml::p_get_text(std::string* name, int first) {
   if (first != -1) name->push_back(static_cast<char>(first));
-  if (!p_get_xml_text(name)) return EXE_ERROR;
   m_past_prolog = true;
-  return EXE_TEXT;
+  return p_get_xml_text(name) ? EXE_TEXT : EXE_ERROR;
 }
 
 // After "<?". False when reading can not go on. Where "xml" differs, the differing character is used up,
@@ -310,7 +303,8 @@ bool c_xml::p_handle_doctype() {
   return true;
 }
 
-// After "<![". The section's text goes to `*out` as it is. The end of the input ends the section too.
+// After "<![". The section's text goes to `*out` as it is. The end of the input ends the section like its
+// "]]>", of which the brackets may have come.
 bool c_xml::p_read_cdata(std::string* out) {
   if (!m_getter.read_specified_string_from_input("CDATA[")) {
     p_not_well_formed();
@@ -323,13 +317,13 @@ bool c_xml::p_read_cdata(std::string* out) {
       ++brackets;
       continue;
     }
-    if (c == '>' && brackets >= 2) {
+    if ((c == '>' || c == -1) && brackets >= 2) {
       out->append(brackets - 2, ']');
       return true;
     }
     out->append(brackets, ']');
-    brackets = 0;
     if (c == -1) return true;
+    brackets = 0;
     out->push_back(static_cast<char>(c));
   }
 }
@@ -364,7 +358,6 @@ bool c_xml::p_get_xml_text(std::string* out) {
 
 bool c_xml::p_capture_attributes(c_xml_local* local) {
   p_forget_attributes();
-  m_ns_attributes.clear();
   m_attributes_cut_off = false;
   std::string& data = m_attributes.m_data;
   for (;;) {
@@ -456,21 +449,17 @@ bool c_xml::p_capture_attribute_value(c_attribute_data* data, std::size_t* value
 }
 
 elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
-  plain_attributes_view const plain = plain_attributes();
-  if (plain.begin != plain.end) {
-    copy_name(name, plain.begin->name, plain.begin->name_length);
-    ++m_plain_next;
-    m_value_pending = true;
-    return EXE_TOKEN;
+  if (!in_decl) {
+    elxp_xml_event const end = take_plain_tag_end(name);
+    if (end != EXE_UNKNOWN) return end;
   }
+  p_copy_plain_attributes();
   name->clear();
   if (m_attributes.has_next()) {
     m_attributes.take_name(name);
     m_value_pending = true;
     return EXE_TOKEN;
   }
-  if (!in_decl && p_is_at_plain_end()) return p_take_plain_end();
-  p_forget_attributes();
   int c = m_getter.get_non_space();
   if (c == '>') return EXE_START_TAG_END;
   if (c == (in_decl ? '?' : '/')) {
@@ -483,15 +472,13 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
 }
 
 bool c_xml::get_attribute_value(std::string* out, elmx_whitespace mode) {
-  const bool value_pending = m_value_pending;
-  m_value_pending = false;
-  if (value_pending && !p_is_plain()) return p_get_captured_value(&m_attributes, out, mode);
+  if (m_value_pending) {
+    m_value_pending = false;
+    return p_get_captured_value(&m_attributes, out, mode);
+  }
   out->clear();
   m_getter.set_ws_mode(mode);
-  if (!value_pending) return false;
-  plain_attribute const& attribute = m_plain[m_plain_next - 1];
-  m_getter.add_run_wsp(out, attribute.value(), attribute.value_length);
-  return true;
+  return false;
 }
 
 // The value at the capture's index, which moves past it whether it can be expanded or not.
@@ -520,7 +507,7 @@ bool c_xml::p_get_captured_value(c_attribute_data* data, std::string* out, elmx_
 }
 
 bool c_xml::skip_attribute_value() {
-  if (m_value_pending && !p_is_plain()) m_attributes.skip_value();
+  if (m_value_pending) m_attributes.skip_value();
   m_value_pending = false;
   return true;
 }

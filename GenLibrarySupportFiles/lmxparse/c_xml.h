@@ -116,20 +116,25 @@ class ISOXML_API c_xml {
     }
   }
   /// The next captured attribute: EXE_TOKEN with its name. After the last one the end of the tag is read:
-  /// EXE_START_TAG_END or EXE_ELEMENT_END ("?>" when `in_decl`), or EXE_ERROR with 23.
+  /// EXE_START_TAG_END or EXE_ELEMENT_END ("?>" when `in_decl`), or EXE_ERROR with 23. Asked for again before
+  /// the value was read or skipped, it takes that for a name: the quote and the value as it stands.
   elxp_xml_event get_attribute_name(std::string* name, bool in_decl);
   /// What `get_attribute_name` gives where no attribute is left and the tag's end lies in the source's
   /// buffer; else EXE_UNKNOWN, with nothing changed.
   elxp_xml_event take_plain_tag_end(std::string* name) {
-    if (m_plain_next != m_plain_count || !p_is_at_plain_end()) return EXE_UNKNOWN;
+    unsigned char const* const end = p_plain_end();
+    if (end == nullptr) return EXE_UNKNOWN;
     name->clear();
-    return p_take_plain_end();
+    bool const is_empty = *end == '/';
+    m_getter.consume_more(end + (is_empty ? 2 : 1));
+    return is_empty ? EXE_ELEMENT_END : EXE_START_TAG_END;
   }
   /// True, and the end is taken, where that is an EXE_ELEMENT_END.
   bool take_plain_empty_tag_end(std::string* name) {
-    if (m_plain_next != m_plain_count || !p_is_at_plain_end() || *m_plain_end != '/') return false;
+    unsigned char const* const end = p_plain_end();
+    if (end == nullptr || *end != '/') return false;
     name->clear();
-    p_take_plain_end();
+    m_getter.consume_more(end + 2);
     return true;
   }
   /// The value of the attribute just named, references expanded. False when one can not be, and when it has
@@ -139,10 +144,7 @@ class ISOXML_API c_xml {
   bool skip_attribute_value();
   /// The attributes still to be read, when they lie in the source's buffer as they are, their values ASCII
   /// without references and line ends; else none. Borrowed until anything else is read.
-  plain_attributes_view plain_attributes() const {
-    if (m_plain_fetches != m_getter.fetches()) return {nullptr, nullptr};
-    return {m_plain + m_plain_next, m_plain + m_plain_count};
-  }
+  plain_attributes_view plain_attributes() const { return {m_plain + m_plain_next, m_plain + m_plain_count}; }
   /// Counts those before `up_to` as named, at least one, and their values as read: the last under `mode`.
   void take_plain_attributes(plain_attribute const* up_to, elmx_whitespace mode) {
     m_getter.set_ws_mode(mode);
@@ -160,11 +162,9 @@ class ISOXML_API c_xml {
   bool skip_rest_of_element(std::string const& name);
   /// The same from behind the start tag.
   bool skip_element_body(std::string const& name);
-  /// Reads to the end of the start tag; see `c_get_for_xml::move_to_start_tag_end`. Its attributes are gone.
-  bool move_to_start_tag_end(bool* is_empty) {
-    p_forget_attributes();
-    return m_getter.move_to_start_tag_end(is_empty);
-  }
+  /// Reads to the end of the start tag; see `c_get_for_xml::move_to_start_tag_end`. Attributes not yet looked
+  /// at can still be: they stay until the next start tag.
+  bool move_to_start_tag_end(bool* is_empty) { return m_getter.move_to_start_tag_end(is_empty); }
   /// Starts the document again.
   void rewind();
 
@@ -228,30 +228,24 @@ class ISOXML_API c_xml {
   bool p_select_input_entity(std::string* out);
   elxp_xml_event p_get_item(c_xml_local* local, std::string* name);
   elxp_xml_event p_get_plain_item(c_xml_local const* local, std::string* name);
-  // True when the last tag was plain and nothing has been read since it was scanned.
-  bool p_is_at_plain_end() const {
-    return m_plain_end != nullptr && m_plain_fetches == m_getter.fetches() && m_getter.stands_at(m_plain_end);
-  }
-  elxp_xml_event p_take_plain_end() {
-    bool const is_empty = *m_plain_end == '/';
-    m_getter.consume_more(m_plain_end + (is_empty ? 2 : 1));
-    p_forget_plain_attributes();
-    return is_empty ? EXE_ELEMENT_END : EXE_START_TAG_END;
+  // Where the end of a plain tag lies, if it is what comes next and no attribute is left; else null.
+  unsigned char const* p_plain_end() const {
+    return m_plain_next == m_plain_count ? m_getter.at_mark() : nullptr;
   }
   unsigned char const* p_capture_plain_attributes(byte_window window, bool take_declarations,
                                                   std::size_t* count, int* line_feeds);
-  bool p_is_plain() const { return m_plain_count != 0 && m_plain_fetches == m_getter.fetches(); }
-  void p_copy_plain_attributes();
-  void p_forget_plain_attributes() {
-    m_plain_end = nullptr;
+  // Looked at in any other way than as plain ones, the attributes are captured like those of any tag.
+  void p_copy_plain_attributes() {
+    if (m_plain_count != 0) p_do_copy_plain_attributes();
+  }
+  void p_do_copy_plain_attributes();
+  // Attributes are there until the next start tag.
+  void p_forget_attributes() {
     m_plain_count = 0;
     m_plain_next = 0;
-    m_value_pending = false;
-  }
-  // Attributes are there until their tag ends.
-  void p_forget_attributes() {
-    p_forget_plain_attributes();
     m_attributes.clear();
+    m_ns_attributes.clear();
+    m_value_pending = false;
   }
   bool p_capture_attributes(c_xml_local* local);
   bool p_capture_declaration(c_xml_local* local, char const* name);
@@ -284,8 +278,16 @@ class ISOXML_API c_xml {
   // A name of three letters and what ended it, as they lie in the buffer: those of the last such tag.
   static constexpr std::size_t plain_name_length = 3;
   std::uint32_t m_plain_name;
-  unsigned char const* m_plain_end = nullptr;  // where the tag ends, at its ">" or "/>"
-  unsigned long long m_plain_fetches = 0;      // when the source was asked for more since, they are gone
+  // Captures the plain attributes before their buffer changes.
+  class plain_tenant final : public buffer_tenant {
+   public:
+    explicit plain_tenant(c_xml& owner) : mr_owner(owner) {}
+    void move_out() override { mr_owner.p_copy_plain_attributes(); }
+
+   private:
+    c_xml& mr_owner;
+  };
+  plain_tenant m_tenant{*this};
 };
 
 }  // namespace lmx

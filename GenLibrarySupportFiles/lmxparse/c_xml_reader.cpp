@@ -102,10 +102,6 @@ void c_xml_reader::p_tokenise(s_event_map const* map, elxp_attr_elem kind) {
   s_event_map const* const row = find_row(ns_id == nsid_xsi ? xsi_attributes : map, ns_id,
                                           m_cracked_name.local_name(), m_cracked_name.local_length());
   m_event = row == nullptr ? static_cast<int>(EXE_UNKNOWN) : row->m_event;
-  if (kind == EXAE_ELEMENT) {
-    mp_tokenised_in = map;
-    m_tokenised_event = m_event;
-  }
 }
 
 int c_xml_reader::tokenise(s_event_map const* map, std::string const& name, elxp_attr_elem kind) {
@@ -119,7 +115,7 @@ bool c_xml_reader::p_find_known_element() {
                m_cracked_name.local_length()) == nullptr) {
     return false;
   }
-  mp_known_in = mp_known_elements;
+  if (mp_known_elements == mp_constant_known) mp_known_in = mp_known_elements;
   return true;
 }
 

@@ -15,6 +15,12 @@
 #include "GenLibrarySupportFiles/lmxparse/stack_guard.h"
 #include "GenLibrarySupportFiles/lmxtypes/lexical.h"
 
+namespace binding {
+
+class constant_tables;
+
+}  // namespace binding
+
 namespace lmx {
 
 class c_untyped_unmarshal_bridge;
@@ -92,12 +98,7 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
 
   /// Looks the current name up in `map` and sets `m_event`. An event that is no name is left alone.
   void tokenise(s_event_map const* map, elxp_attr_elem kind) {
-    if (!p_is_name_event(m_event)) return;
-    if (kind == EXAE_ELEMENT && map == mp_tokenised_in && map != nullptr) {
-      m_event = m_tokenised_event;  // one of a run of siblings, say
-    } else {
-      p_tokenise(map, kind);
-    }
+    if (p_is_name_event(m_event)) p_tokenise(map, kind);
   }
   /// The same for `name`, as it stands in the current scope. Returns `m_event`.
   int tokenise(s_event_map const* map, std::string const& name, elxp_attr_elem kind);
@@ -220,6 +221,8 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   stack_guard m_stack_guard;                            ///< Refuses elements that nest too deep.
 
  private:
+  friend class binding::constant_tables;
+
   // An event that a table may still name: a name that was read, whether looked up before or not.
   static bool p_is_name_event(int event) {
     return event == EXE_UNKNOWN || event == EXE_TOKEN || event >= EXE_FIRST_USER;
@@ -245,9 +248,11 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   c_xml_reader_local m_root_local;
   s_debug_error m_debug_error;
   c_cracked_name m_cracked_name;
-  // What the last look-ups of this very name have found: siblings come in long runs.
-  s_known_elements const* mp_known_in = nullptr;  // the table that has it
-  s_event_map const* mp_tokenised_in = nullptr;   // the table that gave it `m_tokenised_event`
+  // What the last look-ups of this very name have found in the library's own tables: siblings come in long
+  // runs. A host's table is looked through each time, since another may stand at its address by then.
+  s_known_elements const* mp_constant_known = nullptr;  // the table in force, if it is the library's
+  s_known_elements const* mp_known_in = nullptr;        // the table that has it
+  s_event_map const* mp_tokenised_in = nullptr;         // the table that gave it `m_tokenised_event`
   int m_tokenised_event = EXE_UNKNOWN;
   std::vector<std::pair<std::string, std::string>> m_namespace_mappings;
 };

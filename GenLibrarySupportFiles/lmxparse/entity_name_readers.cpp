@@ -8,7 +8,9 @@ c_entity_name_reader::~c_entity_name_reader() = default;
 
 int c_entity_name_reader_for_c_get::get() { return mr_getter.get(); }
 
-void c_entity_name_reader_for_c_get::unget(int c) { mr_getter.unget(c); }
+void c_entity_name_reader_for_c_get::unget(int c) {
+  if (c != -1) mr_getter.unget(c);
+}
 
 int c_entity_name_reader_for_attribute_data::get() {
   const int c = static_cast<unsigned char>(mr_data.m_data[mr_data.m_index]);

@@ -61,7 +61,7 @@ void c_get_as_utf8::rewind() {
   m_pending_end = false;
   m_bytes_read = 0;
   mp_transcoder.reset();
-  ++m_fetches;
+  p_leave_buffer();
   mr_read.rewind();
 }
 
@@ -263,6 +263,7 @@ bool c_get_as_utf8::set_encoding(char const* name) {
 }
 
 bool c_get_as_utf8::p_set_external_encoding(char const* name) {
+  p_leave_buffer();  // the transcoder reads from the source by itself
   if (mp_factory != nullptr) mp_transcoder.reset(mp_factory->create(mr_read, mr_error, m_encoding, name));
   if (mp_transcoder == nullptr) {
     error(EET_FATAL, ELMX_BAD_CHAR_ENCODING, "Unknown character encoding specified");
@@ -367,7 +368,7 @@ int c_get_with_entities::p_get_from_entity() {
 void c_get_with_entities::unget(int c) {
   if (m_active.empty()) {
     c_get_as_utf8::unget(c);
-  } else if (c != -1 && !has_fatal()) {
+  } else if (!has_fatal()) {
     m_active.back().unget_buffer().unget(c);
   }
 }
@@ -415,6 +416,7 @@ bool c_get_with_entities::p_set_input_entity_value(std::string const& value) {
   }
   if (m_active.size() == limits::active_entities) return p_refuse_entity("Entities nested too deep");
   if (!p_charge(limits::reference_cost)) return false;
+  forget_mark();
   m_active.emplace_back(value.c_str());
   return true;
 }
@@ -521,6 +523,7 @@ bool c_get_with_entities::select_general_entity(c_entity_name_reader& reader, st
 bool c_get_with_entities::insert_character_entity(c_entity_name_reader& reader, std::string* out) {
   int c = reader.get();
   const bool is_hex = c == 'x';
+  if (!is_hex && !is_digit(c)) return false;  // `c` is used up
   if (is_hex) c = reader.get();
   const int base = is_hex ? 16 : 10;
   bool has_digits = false;
@@ -668,21 +671,18 @@ bool c_get_for_xml::move_to_start_tag_end(bool* is_empty) {
   }
 }
 
-// Entered after the first letter of the name. Without "=" the name is passed over.
-bool c_get_for_xml::p_read_pseudo_attribute(char const* rest_of_name, std::string* value, bool* has_value) {
+// Entered after the first letter of the name. `*c` is what follows the name: "=", and then the value has been
+// read, or whatever stands in its place.
+bool c_get_for_xml::p_read_pseudo_attribute(char const* rest_of_name, std::string* value, int* c) {
   if (!read_specified_string_from_input(rest_of_name)) return false;
-  const int c = get_non_space();
-  *has_value = c == '=';
-  if (*has_value) return get_simple_quoted_value(value);
-  unget(c);
-  return true;
+  *c = get_non_space();
+  return *c != '=' || get_simple_quoted_value(value);
 }
 
 bool c_get_for_xml::read_xml_decl() {
   std::string value;
-  bool has_value = false;
   int c = get_non_space();
-  if (c != 'v' || !p_read_pseudo_attribute("ersion", &value, &has_value) || !has_value) {
+  if (c != 'v' || !p_read_pseudo_attribute("ersion", &value, &c) || c != '=') {
     error(EET_ERROR, ELMX_BAD_XML_DECL, "Version not present in XML Decl");
     return false;
   }
@@ -692,13 +692,15 @@ bool c_get_for_xml::read_xml_decl() {
   }
   c = get_non_space();
   if (c == 'e') {
-    if (!p_read_pseudo_attribute("ncoding", &value, &has_value)) return false;
-    if (has_value && !set_encoding(value.c_str())) return false;
-    c = get_non_space();
+    if (!p_read_pseudo_attribute("ncoding", &value, &c)) return false;
+    if (c == '=') {
+      if (!set_encoding(value.c_str())) return false;
+      c = get_non_space();
+    }
   }
   if (c == 's') {
-    if (!p_read_pseudo_attribute("tandalone", &value, &has_value)) return false;
-    c = get_non_space();
+    if (!p_read_pseudo_attribute("tandalone", &value, &c)) return false;
+    if (c == '=') c = get_non_space();
   }
   return c == '?' && get() == '>';
 }

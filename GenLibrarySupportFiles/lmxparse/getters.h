@@ -57,6 +57,16 @@ struct byte_window {
   unsigned char const* end;
 };
 
+/// One who keeps addresses of bytes in the source's buffer.
+class ISOXML_API buffer_tenant {
+ public:
+  /// Called before the bytes in the buffer change: what is still needed of them has to be copied now.
+  virtual void move_out() = 0;
+
+ protected:
+  ~buffer_tenant() = default;
+};
+
 class ISOXML_API c_get_as_utf8 {
  public:
   /// Both are borrowed and must outlive the getter, which binds itself to `error` as the source of lines.
@@ -66,10 +76,13 @@ class ISOXML_API c_get_as_utf8 {
 
   /// The next character after line-end folding, or -1. After a fatal error always -1.
   int get();
-  /// Pushes one character back, three at most. -1, and anything after a fatal error, is ignored.
-  /// A line feed that is pushed back counts as a line again when it is read again.
+  /// Pushes one value back, three at most: a character, or the -1 of a byte sequence that is none, which the
+  /// next `get` then returns once more. Does nothing after a fatal error. A line feed that is pushed back
+  /// counts as a line again when it is read again.
   void unget(int c) {
-    if (c != -1 && !mr_error.has_fatal()) m_unget.unget(c);
+    if (mr_error.has_fatal()) return;
+    forget_mark();
+    m_unget.unget(c);
   }
   /// Starts the source again: line 1, encoding unknown.
   void rewind();
@@ -113,9 +126,13 @@ class ISOXML_API c_get_as_utf8 {
     mr_read.mp_next = up_to;
     m_last_char = ' ';  // any plain byte: what matters is that it was no CR
   }
-  /// True while `place`, to which the last `plain_window` was taken, is what will be read next.
-  bool stands_at(unsigned char const* place) const {
-    return mr_read.mp_next == place && !mr_error.has_fatal();
+  /// Remembers where the next byte of the buffer lies, until anything else is to be read first or the buffer
+  /// changes.
+  void set_mark() { mp_mark = mr_read.mp_next; }
+  void forget_mark() { mp_mark = nullptr; }
+  /// The remembered place, if its byte is what will be read next; else null.
+  unsigned char const* at_mark() const {
+    return mp_mark == mr_read.mp_next && !mr_error.has_fatal() ? mp_mark : nullptr;
   }
   /// A `plain_window` in which LF may be taken as well: one at its start is not half of a CR LF.
   byte_window line_window() const {
@@ -127,8 +144,8 @@ class ISOXML_API c_get_as_utf8 {
     m_line = line_feeds > std::numeric_limits<int>::max() - m_line ? std::numeric_limits<int>::max()
                                                                    : m_line + line_feeds;
   }
-  /// Changes whenever the source is asked for more than its buffer holds, which may move the buffer.
-  unsigned long long fetches() const { return m_fetches; }
+  /// `tenant` is borrowed, and is told before the buffer changes.
+  void set_tenant(buffer_tenant* tenant) { mp_tenant = tenant; }
 
  protected:
   bool has_fatal() const { return mr_error.has_fatal(); }
@@ -141,10 +158,14 @@ class ISOXML_API c_get_as_utf8 {
       ++m_bytes_read;
       return *mr_read.mp_next++;
     }
-    ++m_fetches;
+    p_leave_buffer();
     const int c = mr_read.get();
     if (c != -1) ++m_bytes_read;  // the end is no byte, however often it is asked for
     return c;
+  }
+  void p_leave_buffer() {
+    forget_mark();
+    if (mp_tenant != nullptr) mp_tenant->move_out();
   }
   int p_get();
   int p_read_local_transcoded();
@@ -171,7 +192,8 @@ class ISOXML_API c_get_as_utf8 {
   bool m_pending_end = false;        // one -1 is to be delivered
   int m_line = 1;
   unsigned long long m_bytes_read = 0;
-  unsigned long long m_fetches = 0;
+  unsigned char const* mp_mark = nullptr;
+  buffer_tenant* mp_tenant = nullptr;
 };
 
 /// Encodes `code_point` as UTF-8 with a closing NUL; one to four bytes, no range check. Returns `out`.
@@ -304,7 +326,7 @@ class ISOXML_API c_get_for_xml : public c_get_with_entities {
   void take_plain_text(std::string* out);
 
  private:
-  bool p_read_pseudo_attribute(char const* rest_of_name, std::string* value, bool* has_value);
+  bool p_read_pseudo_attribute(char const* rest_of_name, std::string* value, int* c);
 };
 
 }  // namespace lmx

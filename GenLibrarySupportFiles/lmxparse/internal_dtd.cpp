@@ -54,9 +54,8 @@ bool c_dtd_util::get_quoted_entity_value(std::string* out) {
         continue;
       }
       out->push_back('&');  // other references wait until the entity is used
-      if (c == -1) return true;
     }
-    out->push_back(static_cast<char>(c));
+    if (c != -1) out->push_back(static_cast<char>(c));
   }
 }
 

@@ -1,5 +1,6 @@
 // One check, every way a source can hand out its bytes: through `get` alone, from a window over a buffer of
-// a file, and from windows so small that each of their ends falls into the middle of something.
+// a file, from one over the whole document, and from windows so small that each of their ends falls into the
+// middle of something.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -51,7 +52,8 @@ void with_each_source(std::string const& bytes, Check check) {
     MemoryRead read(bytes);
     check(read);
   }
-  for (const std::size_t window : {1u, 2u, 3u, 5u}) {
+  for (const std::size_t window : {std::size_t{1}, std::size_t{2}, std::size_t{3}, std::size_t{5},
+                                   std::size_t{7}, std::size_t{16}, std::size_t{64}, bytes.size() + 1}) {
     SCOPED_TRACE("windows of " + std::to_string(window));
     WindowRead read(bytes, window);
     check(read);

@@ -386,6 +386,37 @@ TEST(ElementEvent, LooksAKnownNameUp) {
   });
 }
 
+// A host may build a table anew where the last one stood.
+TEST(ElementEvent, IsLookedUpInATableAsItStandsNow) {
+  with_each_source("<a/><a/><a/>", [](lmx::c_read& read) {
+    Reader reader(read);
+    lmx::s_event_map map[] = {{1, "a", 1, 20}, {0, nullptr, 0, 0}};
+    for (const int event : {20, 21, 22}) {
+      map[0].m_event = event;
+      EXPECT_EQ(event, reader.get_element_event(map, &reader.m_name));
+      map[0].m_event = 30 + event;
+      reader.tokenise(map, lmx::EXAE_ELEMENT);
+      EXPECT_EQ(30 + event, reader.m_event) << "the same name again";
+      reader.skip_start_tag(nullptr);
+    }
+  });
+}
+
+TEST(ElementEvent, IsKnownIfTheTableHoldsItsNameNow) {
+  with_each_source("<a/><a/><a/><b/>", [](lmx::c_read& read) {
+    Reader reader(read);
+    lmx::s_known_elements table[] = {{1, "a", 1}, {0, nullptr, 0}};
+    const lmx::c_known_elements_selector selector(reader, table);
+    for (char const* const expected : {"a", "a", "b"}) {
+      table[0].mp_name = expected;
+      elmx_error error = lmx::ELMX_UNDEFINED_ERROR;
+      reader.get_element_event(&error, &reader.m_name);
+      EXPECT_EQ(expected, reader.m_name);
+      reader.skip_start_tag(nullptr);
+    }
+  });
+}
+
 TEST(ElementEvent, TellsTheHookTheWholeNameThePathAndTheProgramPlace) {
   with_each_source("<p:Foo xmlns:p='u'/>", [](lmx::c_read& read) {
     Reader reader(read);

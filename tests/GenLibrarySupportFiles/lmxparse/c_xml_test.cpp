@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -355,6 +356,31 @@ TEST(AfterAFailure, ReadingGoesOnBehindItUnlessItWasFatal) {
   }
 }
 
+TEST(AfterAFailure, OfTextTheDocumentIsPastItsProlog) {
+  with_xml(" x&foo;<?xml version='1.0'?><a/>", [](lmx::c_xml& xml, RecordingError& log) {
+    EXPECT_EQ("!", trace(xml));
+    EXPECT_EQ(lmx::ELMX_OK, log.last_code());
+    EXPECT_EQ("!", trace(xml));
+    EXPECT_EQ(lmx::EET_FATAL, log.last_type());
+    EXPECT_EQ(lmx::ELMX_BAD_XML_DECL, log.last_code());
+  });
+}
+
+TEST(UnterminatedSection, EndsWithTheBracketsThatItHas) {
+  for (auto const& [document, text] : std::map<std::string, std::string>{{"<![CDATA[ab]]", "ab"},
+                                                                         {"<![CDATA[ab]]]", "ab]"},
+                                                                         {"<![CDATA[ab]", "ab]"},
+                                                                         {"<![CDATA[ab", "ab"},
+                                                                         {"<![CDATA[]]", ""}}) {
+    with_xml("<?xml version='1.0'?>" + document, [&, text = text](lmx::c_xml& xml, RecordingError& log) {
+      std::string name;
+      EXPECT_EQ(lmx::EXE_TEXT, xml.get_element_name(nullptr, &name));
+      EXPECT_EQ(text, name);
+      EXPECT_EQ("", log.text());
+    });
+  }
+}
+
 TEST(AfterAFailure, AnEntityBeingReadEndsWithTheInput) {
   for (const std::string value : {"x<b c=d/>z", "<b c=d/>z", "x<?xml version=\"1.0\"?>z"})
     with_xml("<!DOCTYPE a [<!ENTITY e '" + value + "'>]><a>&e;<c/></a>",
@@ -466,22 +492,62 @@ TEST(AttributeValues, AreReadOrSteppedOverOnce) {
   });
 }
 
-TEST(AttributeValues, AreGoneWithTheirTag) {
-  for (const bool move_on : {false, true})
-    with_xml("<a b='1'>text</a>", [move_on](lmx::c_xml& xml, RecordingError&) {
-      std::string name, value;
-      xml.get_element_name(nullptr, &name);
-      xml.get_attribute_name(&name, false);
-      if (move_on) {
-        EXPECT_TRUE(xml.move_to_start_tag_end(nullptr));
-      } else {
-        EXPECT_EQ(lmx::EXE_START_TAG_END, (xml.skip_attribute_value(), xml.get_attribute_name(&name, false)));
-      }
-      EXPECT_FALSE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
-      EXPECT_EQ("", value);
-      for (int i = 0; i != 2; ++i)
-        EXPECT_FALSE(xml.get_named_attribute(nullptr, lmx::nsid_none, "b", &value));
-    });
+TEST(AttributeValues, StayBehindTheEndOfTheTagUntilTheNextStartTag) {
+  with_xml("<?xml version='1.0'?><a b='1' c='2'>text</a><d e='3'/>", [](lmx::c_xml& xml, RecordingError&) {
+    std::string name, value;
+    xml.get_element_name(nullptr, &name);
+    xml.get_attribute_name(&name, false);
+    EXPECT_TRUE(xml.move_to_start_tag_end(nullptr));
+    EXPECT_TRUE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
+    EXPECT_EQ("1", value);
+    EXPECT_EQ(lmx::EXE_TEXT, xml.get_element_name(nullptr, &name));
+    EXPECT_EQ(lmx::EXE_ELEMENT_END, xml.get_element_name(nullptr, &name));
+    EXPECT_EQ(lmx::EXE_TOKEN, xml.get_attribute_name(&name, false));
+    EXPECT_EQ("c", name);
+    EXPECT_TRUE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
+    EXPECT_EQ("2", value);
+    EXPECT_EQ(lmx::EXE_TOKEN, xml.get_element_name(nullptr, &name));
+    EXPECT_FALSE(xml.get_attribute_value(&value, lmx::EXWS_PRESERVE));
+    EXPECT_EQ(lmx::EXE_TOKEN, xml.get_attribute_name(&name, false));
+    EXPECT_EQ("e", name);
+  });
+}
+
+TEST(AttributeValues, AreLookedForAgainFromTheFirstOnceOneWasLookedFor) {
+  with_xml("<?xml version='1.0'?><a b='1'>text</a>", [](lmx::c_xml& xml, RecordingError&) {
+    std::string name, value;
+    xml.get_element_name(nullptr, &name);
+    xml.get_attribute_name(&name, false);
+    xml.skip_attribute_value();
+    EXPECT_EQ(lmx::EXE_START_TAG_END, xml.get_attribute_name(&name, false));
+    EXPECT_FALSE(xml.get_named_attribute(nullptr, lmx::nsid_none, "b", &value)) << "all have been passed";
+    EXPECT_TRUE(xml.get_named_attribute(nullptr, lmx::nsid_none, "b", &value));
+    EXPECT_EQ("1", value);
+  });
+}
+
+TEST(AttributeValues, NotTakenAreTakenForTheNextName) {
+  with_xml("<?xml version='1.0'?><a b='1' c='2'/>", [](lmx::c_xml& xml, RecordingError&) {
+    std::string name, value;
+    xml.get_element_name(nullptr, &name);
+    for (char const* const expected : {"b", "'1", "c", "'2"}) {
+      EXPECT_EQ(lmx::EXE_TOKEN, xml.get_attribute_name(&name, false));
+      EXPECT_EQ(expected, name);
+    }
+    EXPECT_EQ(lmx::EXE_ELEMENT_END, xml.get_attribute_name(&name, false));
+  });
+}
+
+TEST(AttributeValues, WhatIsPushedBackBehindThemComesBeforeTheEndOfTheTag) {
+  with_xml("<?xml version='1.0'?><a b='1'/>", [](lmx::c_xml& xml, RecordingError&) {
+    std::string name;
+    xml.get_element_name(nullptr, &name);
+    xml.get_attribute_name(&name, false);
+    xml.skip_attribute_value();
+    xml.getter().unget('>');
+    EXPECT_EQ(lmx::EXE_START_TAG_END, xml.get_attribute_name(&name, false));
+    EXPECT_EQ('/', xml.getter().get());
+  });
 }
 
 TEST(AttributeValues, CanBeLookedForBehindTheOneJustNamed) {

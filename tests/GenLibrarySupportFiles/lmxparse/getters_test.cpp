@@ -80,22 +80,26 @@ TEST(PushBack, GoesInFrontOfAMultiByteCharacterUnderDelivery) {
   });
 }
 
-TEST(PushBack, DoesNothingWithTheEndOfInput) {
-  with_getter_inside("a", [](lmx::c_get_for_xml& getter, RecordingError&) {
-    for (int i = 0; i < 10; ++i) getter.unget(-1);
-    EXPECT_EQ("a", rest(getter));
+TEST(PushBack, OfNoCharacterIsReturnedOnceLikeOne) {
+  with_getter_inside("ab", [](lmx::c_get_for_xml& getter, RecordingError&) {
+    getter.unget(-1);
+    EXPECT_EQ(-1, getter.get());
+    EXPECT_EQ('a', getter.get());
+    for (const int c : {int{'1'}, -1, int{'2'}}) getter.unget(c);
+    for (const int c : {int{'2'}, -1, int{'1'}, int{'b'}, -1, -1}) EXPECT_EQ(c, getter.get());
   });
 }
 
 TEST(PushBackDeathTest, StopsAtAFourth) {
-  EXPECT_DEATH(
-      {
-        MemoryRead read("");
-        lmx::c_error log;
-        lmx::c_get_as_utf8 getter(read, log);
-        for (int i = 0; i < 4; ++i) getter.unget('x');
-      },
-      "m_free_index < size");
+  for (const int c : {int{'x'}, -1})
+    EXPECT_DEATH(
+        {
+          MemoryRead read("");
+          lmx::c_error log;
+          lmx::c_get_as_utf8 getter(read, log);
+          for (int i = 0; i < 4; ++i) getter.unget(c);
+        },
+        "m_free_index < size");
 }
 
 TEST(AfterAFatalError, EveryGetIsTheEnd) {
@@ -113,7 +117,7 @@ TEST(AfterAFatalError, EveryGetIsTheEnd) {
       getter.error(lmx::EET_FATAL, lmx::ELMX_BAD_DTD, "stop");
       for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(-1, getter.get());
-        getter.unget('x');  // neither kept nor counted against the three
+        for (const int c : {int{'x'}, -1}) getter.unget(c);  // neither kept nor counted against the three
       }
       EXPECT_EQ(-1, getter.get());
     });
@@ -129,13 +133,12 @@ TEST(AfterAFatalError, AnEntityBeingReadIsAtItsEndToo) {
     ASSERT_TRUE(getter.select_general_entity(reader, &out));
     EXPECT_EQ("", out);
     EXPECT_EQ('v', getter.get());
-    for (int i = 0; i < 5; ++i) getter.unget(-1);  // does nothing here either
-    getter.unget('V');
-    EXPECT_EQ('V', getter.get());
+    for (const int c : {-1, int{'V'}}) getter.unget(c);  // both stay with the entity
+    for (const int c : {int{'V'}, -1}) EXPECT_EQ(c, getter.get());
     getter.error(lmx::EET_FATAL, lmx::ELMX_BAD_DTD, "stop");
     for (int i = 0; i < 5; ++i) {
       EXPECT_EQ(-1, getter.get());
-      getter.unget('x');
+      for (const int c : {int{'x'}, -1}) getter.unget(c);
     }
     EXPECT_EQ(-1, getter.get());
   });
@@ -971,7 +974,9 @@ TEST(XmlDeclaration, IsReadFromBehindItsName) {
       {"something else", "version='1.0' other='x'?>", false, "", ""},
       {"no question mark", "version='1.0'>r", false, "", ""},
       {"a blank in the end mark", "version='1.0'? >r", false, "", ""},
-      {"cut at the end", "version='1.0'?", false, "", ""}};
+      {"cut at the end", "version='1.0'?", false, "", ""},
+      {"no character behind encoding", "version='1.0' encoding\x80?>", false, "", ""},
+      {"no character behind standalone", "version='1.0' standalone\x80?>", false, "", ""}};
   for (auto const& row : rows) {
     SCOPED_TRACE(row.caption);
     with_getter_inside(row.text, [&](lmx::c_get_for_xml& getter, RecordingError& log) {
