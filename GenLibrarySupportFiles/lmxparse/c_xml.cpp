@@ -227,8 +227,9 @@ void c_xml::p_do_copy_plain_attributes() {
   std::string& data = m_attributes.m_data;
   data.clear();
   for (std::size_t i = 0; i != m_plain_count; ++i) {
-    if (i == m_plain_next) m_attributes.m_index = data.size();
+    if (i == m_plain_next && !m_value_pending) m_attributes.m_index = data.size();
     data.append(m_plain[i].name, m_plain[i].name_length).push_back('\0');
+    if (i == m_plain_next && m_value_pending) m_attributes.m_index = data.size();
     data.append(m_plain[i].value() - 1, m_plain[i].value_length + 1).push_back('\0');
   }
   if (m_plain_next == m_plain_count) m_attributes.m_index = data.size();
@@ -453,7 +454,13 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
     elxp_xml_event const end = take_plain_tag_end(name);
     if (end != EXE_UNKNOWN) return end;
   }
-  p_copy_plain_attributes();
+  plain_attributes_view const plain = plain_attributes();
+  if (plain.begin != plain.end) {
+    copy_name(name, plain.begin->name, plain.begin->name_length);
+    m_value_pending = true;
+    return EXE_TOKEN;
+  }
+  if (m_value_pending) p_copy_plain_attributes();
   name->clear();
   if (m_attributes.has_next()) {
     m_attributes.take_name(name);
@@ -472,13 +479,15 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_decl) {
 }
 
 bool c_xml::get_attribute_value(std::string* out, elmx_whitespace mode) {
-  if (m_value_pending) {
-    m_value_pending = false;
-    return p_get_captured_value(&m_attributes, out, mode);
-  }
+  const bool value_pending = m_value_pending;
+  m_value_pending = false;
+  if (value_pending && m_plain_count == 0) return p_get_captured_value(&m_attributes, out, mode);
   out->clear();
   m_getter.set_ws_mode(mode);
-  return false;
+  if (!value_pending) return false;
+  plain_attribute const& attribute = m_plain[m_plain_next++];
+  m_getter.add_run_wsp(out, attribute.value(), attribute.value_length);
+  return true;
 }
 
 // The value at the capture's index, which moves past it whether it can be expanded or not.
@@ -507,7 +516,11 @@ bool c_xml::p_get_captured_value(c_attribute_data* data, std::string* out, elmx_
 }
 
 bool c_xml::skip_attribute_value() {
-  if (m_value_pending) m_attributes.skip_value();
+  if (m_value_pending && m_plain_count != 0) {
+    ++m_plain_next;
+  } else if (m_value_pending) {
+    m_attributes.skip_value();
+  }
   m_value_pending = false;
   return true;
 }

@@ -144,7 +144,10 @@ class ISOXML_API c_xml {
   bool skip_attribute_value();
   /// The attributes still to be read, when they lie in the source's buffer as they are, their values ASCII
   /// without references and line ends; else none. Borrowed until anything else is read.
-  plain_attributes_view plain_attributes() const { return {m_plain + m_plain_next, m_plain + m_plain_count}; }
+  plain_attributes_view plain_attributes() const {
+    if (m_value_pending) return {nullptr, nullptr};
+    return {m_plain + m_plain_next, m_plain + m_plain_count};
+  }
   /// Counts those before `up_to` as named, at least one, and their values as read: the last under `mode`.
   void take_plain_attributes(plain_attribute const* up_to, elmx_whitespace mode) {
     m_getter.set_ws_mode(mode);
@@ -234,7 +237,7 @@ class ISOXML_API c_xml {
   }
   unsigned char const* p_capture_plain_attributes(byte_window window, bool take_declarations,
                                                   std::size_t* count, int* line_feeds);
-  // Looked at in any other way than as plain ones, the attributes are captured like those of any tag.
+  // Looked at otherwise than one after the other, they are captured like those of any tag.
   void p_copy_plain_attributes() {
     if (m_plain_count != 0) p_do_copy_plain_attributes();
   }
@@ -274,7 +277,7 @@ class ISOXML_API c_xml {
   static constexpr std::size_t most_plain_attributes = 32;
   plain_attribute m_plain[most_plain_attributes];
   std::size_t m_plain_count = 0;
-  std::size_t m_plain_next = 0;
+  std::size_t m_plain_next = 0;  // the first whose value has not been read
   // A name of three letters and what ended it, as they lie in the buffer: those of the last such tag.
   static constexpr std::size_t plain_name_length = 3;
   std::uint32_t m_plain_name;
