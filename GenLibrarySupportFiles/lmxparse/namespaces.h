@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -61,6 +62,13 @@ struct ISOXML_API c_namespace_context {
 
 /// One attribute or element that the schema leaves open, as text.
 struct ISOXML_API c_any_info {
+  c_any_info() = default;
+  /// With room for the prefixes of a usual document.
+  c_any_info(std::string uri, std::string name, std::string value)
+      : m_namespace(std::move(uri)), m_name(std::move(name)), m_value(std::move(value)) {
+    m_context.m_items.reserve(6);
+  }
+
   std::string m_namespace;
   std::string m_name;
   std::string m_value;
@@ -146,12 +154,15 @@ class ISOXML_API c_cracked_name {
 
   /// The id; a name without a prefix and without a default namespace is in none.
   int get_element_ns_id() const { return m_id != nsid_not_found || m_has_prefix ? m_id : nsid_none; }
+  /// The id of the prefix; of the default namespace, or 1 for an attribute, where there is none.
   int ns_id() const { return m_id; }
   bool has_prefix() const { return m_has_prefix; }
   std::string const& name() const { return m_name; }
   /// The local name: its first byte and its length. Valid until the next `set`.
   char const* local_name() const { return m_name.c_str() + m_local_offset; }
   std::size_t local_length() const { return m_name.size() - m_local_offset; }
+  /// What precedes the first colon; empty without one.
+  std::string prefix() const { return m_name.substr(0, m_has_prefix ? m_local_offset - 1 : 0); }
 
  private:
   void p_set(c_xml_local const* local, std::string const& name);
