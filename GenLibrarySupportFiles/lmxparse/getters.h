@@ -249,13 +249,16 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   /// The same for a numeric reference whose "&#" has been read. Values up to 0x100000, NUL and
   /// surrogates included.
   bool insert_character_entity(c_entity_name_reader& reader, std::string* out);
+  /// Makes `value` the next input, markup included. It is borrowed until it is read to its end or the
+  /// document starts again. False, with a fatal 9, while that very text is being read already, and for too
+  /// much of it.
+  bool set_input_entity_value(char const* value);
 
  private:
   using entities = c_repository<std::string const*>;
 
   int p_get_from_entity();
   void p_add_entity(entities* to, std::string const& name, std::string const& value);
-  bool p_set_input_entity_value(std::string const& value);
   bool p_append_entity(std::string const& value, std::string* out);
   bool p_charge(unsigned long long cost);
   bool p_refuse_entity(std::string const& message);
