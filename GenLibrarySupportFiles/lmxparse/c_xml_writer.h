@@ -207,9 +207,20 @@ class ISOXML_API c_xml_writer {
   /// How many start tags wait for their end: 0 before and after a complete document.
   int depth() const { return m_depth; }
 
+ protected:
+  // What the setters above keep, for a derived writer that has rules of its own.
+  static std::string m_default_tab;            ///< Indentation of elements.
+  static std::string m_default_nl;             ///< Line end.
+  static std::string m_default_attribute_tab;  ///< Indentation of attributes.
+  static std::string m_default_attribute_nl;   ///< Line end before an attribute.
+
+  /// Counts what a derived writer reports to it. The writer itself reports nothing.
+  c_error m_error;
+
  private:
   friend class c_xml_writer_local;
 
+  static bool p_are_default_pairs_equal();
   // Null does what its formatted insertion into the stream would.
   void p_write(char const* text) {
     if (text == nullptr) return p_refuse_null();
