@@ -77,6 +77,7 @@ class ISOXML_API c_getter_error_binder {
  private:
   friend class c_error;
 
+ protected:
   bool m_is_bound = false;
   c_error& mr_error;
   c_get_as_utf8 const* mp_getter = nullptr;

@@ -37,6 +37,7 @@ std::string c_xml_writer::m_default_attribute_nl("\n");
 c_xml_writer::c_xml_writer(std::ostream& stream, char const* tab, char const* nl, char const* attribute_tab,
                            char const* attribute_nl)
     : m_out(stream),
+      mp_os(&stream),
       mp_local(&m_root_local),
       m_tab(first_given(tab, nullptr, m_default_tab)),
       m_nl(first_given(nl, nullptr, m_default_nl)),

@@ -45,10 +45,10 @@ class ISOXML_API c_unget_buffer {
   bool empty() const { return m_free_index == 0; }
   void clear() { m_free_index = 0; }
 
- private:
+ protected:
   static constexpr unsigned size = 3;
   int m_values[size] = {};
-  unsigned m_free_index = 0;
+  unsigned m_free_index = 0;  ///< How many are in use.
 };
 
 /// A run of bytes that may be taken as they are.
@@ -158,6 +158,8 @@ class ISOXML_API c_get_as_utf8 {
   void p_read_single_utf8_compound_char_sequence(int first, char* out);
   int p_deliver_buffer();
 
+ protected:
+  // State, for derived getters to read.
   c_read& mr_read;
   c_error& mr_error;
   c_getter_error_binder m_binder;
@@ -170,6 +172,8 @@ class ISOXML_API c_get_as_utf8 {
   char const* mp_pending = nullptr;  // its bytes still to deliver, or null
   bool m_pending_end = false;        // one -1 is to be delivered
   int m_line = 1;
+
+ private:
   unsigned long long m_bytes_read = 0;
   unsigned long long m_fetches = 0;
 };
@@ -197,7 +201,7 @@ class ISOXML_API c_dtd_active_entity {
   char const* value() const { return mp_value; }
   c_unget_buffer& unget_buffer() { return m_unget; }
 
- private:
+ protected:
   char const* p_current;
   char const* mp_value;
   c_unget_buffer m_unget;  // what is pushed back inside an entity stays with it
@@ -263,7 +267,6 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   bool p_charge(unsigned long long cost);
   bool p_refuse_entity(std::string const& message);
 
-  const bool m_normalize_char_refs;
   std::string m_entity_name;
   std::vector<c_dtd_active_entity> m_active;    // read as input, innermost last
   std::vector<std::string const*> m_expanding;  // expanded as text, innermost last
@@ -271,6 +274,10 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   entities m_general_entities;
   entities m_parameter_entities;
   unsigned long long m_expanded = 0;  // what entities have cost so far
+
+ protected:
+  // State, for derived getters to read.
+  const bool m_normalize_char_refs;
   elmx_whitespace m_ws_mode = EXWS_PRESERVE;
   bool m_pending_space = false;
 };

@@ -44,8 +44,10 @@ class ISOXML_API c_enumerated_namespaces {
   /// Forgets all but the two standard URIs.
   void clear();
 
+ protected:
+  int m_next_id = nsid_first_user;  ///< The id that the next new URI gets.
+
  private:
-  int m_next_id = nsid_first_user;
   c_repository<int> m_ids;
 };
 
