@@ -194,8 +194,8 @@ class ct_complex_optional {
   void assign(T* value) { p.reset(value); }
   void unset() { p.reset(); }
 
- private:
-  std::unique_ptr<T> p;
+ protected:
+  std::unique_ptr<T> p;  ///< The child; null when absent.
 };
 
 namespace detail {

@@ -51,15 +51,15 @@ class ISOXML_API c_error {
   elmx_error last_code() const { return m_last_code; }
   int last_line() const { return m_last_line; }
 
- private:
-  c_get_as_utf8 const* mp_getter = nullptr;
-  unsigned m_fatal_count = 0;
-  unsigned m_error_count = 0;
-  unsigned m_warning_count = 0;
-  unsigned m_note_count = 0;
-  elmx_error_type m_last_type = EET_NONE;
-  elmx_error m_last_code = ELMX_OK;
-  int m_last_line = -1;
+  // What has been counted. Hosts read it; `error` keeps it.
+  c_get_as_utf8 const* mp_getter = nullptr;  ///< Supplies source and line; borrowed, null when none is bound.
+  unsigned m_fatal_count = 0;                ///< Fatal reports.
+  unsigned m_error_count = 0;                ///< Errors, fatal ones among them.
+  unsigned m_warning_count = 0;              ///< Warnings, notes among them.
+  unsigned m_note_count = 0;                 ///< Notes.
+  elmx_error_type m_last_type = EET_NONE;    ///< How severe the last report was.
+  elmx_error m_last_code = ELMX_OK;          ///< Its code; 0 when there was none.
+  int m_last_line = -1;                      ///< Its line, -1 when not known.
 };
 
 /// Binds a getter to a `c_error` for the binder's lifetime. Binders nest like scopes.
@@ -77,6 +77,7 @@ class ISOXML_API c_getter_error_binder {
  private:
   friend class c_error;
 
+ protected:
   bool m_is_bound = false;
   c_error& mr_error;
   c_get_as_utf8 const* mp_getter = nullptr;

@@ -267,12 +267,17 @@ class ISOXML_API c_xml {
   c_internal_dtd m_internal_dtd;
   c_enumerated_namespaces m_namespaces;
   bool m_declaration_read = false;
-  bool m_doctype_read = false;
-  bool m_past_prolog = false;
   bool m_attributes_cut_off = false;
-  c_attribute_data m_attributes;
   bool m_value_pending = false;  // an attribute has been named, and its value not been read yet
-  c_attribute_data m_ns_attributes;
+
+ protected:
+  // State, for derived readers to look at.
+  bool m_doctype_read = false;       ///< A document type declaration has been read.
+  bool m_past_prolog = false;        ///< The first tag or text has been read.
+  c_attribute_data m_attributes;     ///< The tag's attributes; empty while they lie in the source's buffer.
+  c_attribute_data m_ns_attributes;  ///< Its "xmlns" attributes.
+
+ private:
   // In place of `m_attributes`, for a tag that lies in the buffer. More attributes are not plain.
   static constexpr std::size_t most_plain_attributes = 32;
   plain_attribute m_plain[most_plain_attributes];

@@ -245,16 +245,22 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   bool p_find_known_element();
   void p_finish_element_event(elmx_error* error, std::string* name);
 
-  c_xml_reader_local m_root_local;
-  s_debug_error m_debug_error;
-  c_cracked_name m_cracked_name;
+  // The rest of the state, which derived readers may look at. `m_error`, what the character and tag level has
+  // reported, is protected too.
+ protected:
+  c_xml_reader_local m_root_local;  ///< The outermost scope.
+  s_debug_error m_debug_error;      ///< The last captured error.
+  c_cracked_name m_cracked_name;    ///< The last name of an element or attribute.
+  /// Prefix and URI of each `add_namespace_mapping`.
+  std::vector<std::pair<std::string, std::string>> m_namespace_mappings;
+
+ private:
   // What the last look-ups of this very name have found in the library's own tables: siblings come in long
   // runs. A host's table is looked through each time, since another may stand at its address by then.
   s_known_elements const* mp_constant_known = nullptr;  // the table in force, if it is the library's
   s_known_elements const* mp_known_in = nullptr;        // the table that has it
   s_event_map const* mp_tokenised_in = nullptr;         // the table that gave it `m_tokenised_event`
   int m_tokenised_event = EXE_UNKNOWN;
-  std::vector<std::pair<std::string, std::string>> m_namespace_mappings;
 };
 
 /// The namespace of the document's top element. False when there is none to be had. The document starts

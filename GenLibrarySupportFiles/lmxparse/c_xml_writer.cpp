@@ -19,40 +19,30 @@ namespace {
 
 constexpr char const xsi_uri[] = "http://www.w3.org/2001/XMLSchema-instance";
 
-// The formats of writers that are given none. Not exported: hosts reach them through functions alone, so
-// none of them can end up with a copy of its own.
-struct s_default_formats {
-  std::string tab = "\t";
-  std::string nl = "\n";
-  std::string attribute_tab = "\t";
-  std::string attribute_nl = "\n";
-
-  // While this holds, attributes follow what is set for elements.
-  bool are_pairs_equal() const { return attribute_tab == tab && attribute_nl == nl; }
-};
-
-// Made on first use: a host may build a writer before this file's own objects would be there.
-s_default_formats& default_formats() {
-  static s_default_formats formats;
-  return formats;
-}
-
 char const* first_given(char const* text, char const* other, std::string const& fallback) {
   return text != nullptr ? text : other != nullptr ? other : fallback.c_str();
 }
 
 }  // namespace
 
+// The formats of writers that are given none. They stand in the dynamic list, so that a host has no copies of
+// its own. Their texts are so short that no memory is needed before `main`.
+std::string c_xml_writer::m_default_tab("\t");
+std::string c_xml_writer::m_default_nl("\n");
+std::string c_xml_writer::m_default_attribute_tab("\t");
+std::string c_xml_writer::m_default_attribute_nl("\n");
+
 // ---- Construction ----
 
 c_xml_writer::c_xml_writer(std::ostream& stream, char const* tab, char const* nl, char const* attribute_tab,
                            char const* attribute_nl)
     : m_out(stream),
+      mp_os(&stream),
       mp_local(&m_root_local),
-      m_tab(first_given(tab, nullptr, default_formats().tab)),
-      m_nl(first_given(nl, nullptr, default_formats().nl)),
-      m_attribute_tab(first_given(attribute_tab, tab, default_formats().attribute_tab)),
-      m_attribute_nl(first_given(attribute_nl, nl, default_formats().attribute_nl)) {
+      m_tab(first_given(tab, nullptr, m_default_tab)),
+      m_nl(first_given(nl, nullptr, m_default_nl)),
+      m_attribute_tab(first_given(attribute_tab, tab, m_default_attribute_tab)),
+      m_attribute_nl(first_given(attribute_nl, nl, m_default_attribute_nl)) {
   m_root_local.set_writer(this);
   stream.imbue(std::locale::classic());
 }
@@ -75,26 +65,29 @@ void c_xml_writer::p_write_declaration(int flags) {
 
 // ---- Default formats ----
 
+// While this holds, attributes follow what is set for elements.
+bool c_xml_writer::p_are_default_pairs_equal() {
+  return m_default_attribute_tab == m_default_tab && m_default_attribute_nl == m_default_nl;
+}
+
 void c_xml_writer::set_default_tab(std::string const& tab) {
-  if (default_formats().are_pairs_equal()) default_formats().attribute_tab = tab;
-  default_formats().tab = tab;
+  if (p_are_default_pairs_equal()) m_default_attribute_tab = tab;
+  m_default_tab = tab;
 }
 
 void c_xml_writer::set_default_nl(std::string const& nl) {
-  if (default_formats().are_pairs_equal()) default_formats().attribute_nl = nl;
-  default_formats().nl = nl;
+  if (p_are_default_pairs_equal()) m_default_attribute_nl = nl;
+  m_default_nl = nl;
 }
 
-void c_xml_writer::set_default_attribute_tab(std::string const& tab) {
-  default_formats().attribute_tab = tab;
-}
+void c_xml_writer::set_default_attribute_tab(std::string const& tab) { m_default_attribute_tab = tab; }
 
-void c_xml_writer::set_default_attribute_nl(std::string const& nl) { default_formats().attribute_nl = nl; }
+void c_xml_writer::set_default_attribute_nl(std::string const& nl) { m_default_attribute_nl = nl; }
 
-std::string const& c_xml_writer::get_default_tab() { return default_formats().tab; }
-std::string const& c_xml_writer::get_default_nl() { return default_formats().nl; }
-std::string const& c_xml_writer::get_default_attribute_tab() { return default_formats().attribute_tab; }
-std::string const& c_xml_writer::get_default_attribute_nl() { return default_formats().attribute_nl; }
+std::string const& c_xml_writer::get_default_tab() { return m_default_tab; }
+std::string const& c_xml_writer::get_default_nl() { return m_default_nl; }
+std::string const& c_xml_writer::get_default_attribute_tab() { return m_default_attribute_tab; }
+std::string const& c_xml_writer::get_default_attribute_nl() { return m_default_attribute_nl; }
 
 // ---- Gathering ----
 

@@ -39,14 +39,14 @@ class ISOXML_API c_xml_writer_local {
   /// Stores the writer (borrowed, may be null), whose innermost scope stays what it is.
   void set_writer(c_xml_writer* writer) { mp_writer = writer; }
 
- private:
+ protected:
   friend class c_xml_writer;
 
-  c_xml_writer* mp_writer = nullptr;
-  c_xml_writer_local* mp_parent = nullptr;
-  bool m_attribute_written = false;
-  bool m_body_open = true;    // the ">" of the start tag has been written
-  bool m_child_line = false;  // a child stands on a line of its own, so the end tag does too
+  c_xml_writer* mp_writer = nullptr;        ///< Borrowed, may be null.
+  c_xml_writer_local* mp_parent = nullptr;  ///< The scope that this one hides; null for the document's.
+  bool m_attribute_written = false;         ///< An attribute has been written.
+  bool m_body_open = true;                  ///< The ">" of the start tag has been written.
+  bool m_child_line = false;                ///< A child stands on a line of its own, so the end tag does too.
 };
 
 /// Writes one document, as UTF-8 (XML 1.0) in the bytes that the values hold. Not to be copied.
@@ -207,9 +207,17 @@ class ISOXML_API c_xml_writer {
   /// How many start tags wait for their end: 0 before and after a complete document.
   int depth() const { return m_depth; }
 
+ protected:
+  // What the setters above keep, for a derived writer that has rules of its own.
+  static std::string m_default_tab;            ///< Indentation of elements.
+  static std::string m_default_nl;             ///< Line end.
+  static std::string m_default_attribute_tab;  ///< Indentation of attributes.
+  static std::string m_default_attribute_nl;   ///< Line end before an attribute.
+
  private:
   friend class c_xml_writer_local;
 
+  static bool p_are_default_pairs_equal();
   // Null does what its formatted insertion into the stream would.
   void p_write(char const* text) {
     if (text == nullptr) return p_refuse_null();
@@ -237,18 +245,24 @@ class ISOXML_API c_xml_writer {
 
   mutable detail::output_buffer m_out;
   bool m_is_gathering = false;
-  c_xml_writer_local* mp_local;
-  c_xml_writer_local m_root_local;
-  int m_depth = 0;
-  std::string m_tab;
-  std::string m_nl;
-  std::string m_attribute_tab;
-  std::string m_attribute_nl;
-  bool m_ns_attrs_written = false;
-  s_debug_error m_debug_error;
-  s_ns_map const* mp_ns_map = nullptr;
-  std::vector<std::pair<std::string, std::string>> m_namespaces;        // prefix, URI
-  std::vector<std::pair<std::string, std::string>> m_schema_locations;  // namespace, location
+
+ protected:
+  // State, for derived writers. Nothing of theirs waits in memory: what they put into the stream stands where
+  // it should.
+  std::ostream* const mp_os;        ///< The output; borrowed.
+  c_xml_writer_local* mp_local;     ///< The innermost open scope; borrowed.
+  c_xml_writer_local m_root_local;  ///< That of the document.
+  int m_depth = 0;                  ///< How many elements are open.
+  std::string m_tab;                ///< Indentation of elements.
+  std::string m_nl;                 ///< Line end.
+  std::string m_attribute_tab;      ///< Indentation of attributes.
+  std::string m_attribute_nl;       ///< Line end before an attribute.
+  bool m_ns_attrs_written = false;  ///< The declarations have been written.
+  c_error m_error;              ///< Counts what a derived writer reports to it; the writer reports nothing.
+  s_debug_error m_debug_error;  ///< The last captured error.
+  s_ns_map const* mp_ns_map = nullptr;                            ///< The selected map, or null; borrowed.
+  std::vector<std::pair<std::string, std::string>> m_namespaces;  ///< Added ones: prefix, URI.
+  std::vector<std::pair<std::string, std::string>> m_schema_locations;  ///< Namespace, location.
 };
 
 c_xml_writer_local::c_xml_writer_local(c_xml_writer& writer)

@@ -56,7 +56,7 @@ class ISOXML_API c_entity_name_reader_for_c_str : public c_entity_name_reader {
   /// Where the next byte stands.
   std::size_t index() const { return m_index; }
 
- private:
+ protected:
   char const* mp_string;
   std::size_t m_index;
 };

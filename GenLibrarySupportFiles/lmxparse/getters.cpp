@@ -391,7 +391,7 @@ void c_get_with_entities::add_parameter_entity(std::string const& name, std::str
 bool c_get_with_entities::select_parameter_entity(std::string const& name, bool* known) {
   std::string const* const* const value = m_parameter_entities.find(name);
   *known = value != nullptr;
-  return value == nullptr || p_set_input_entity_value(**value);
+  return value == nullptr || set_input_entity_value((*value)->c_str());
 }
 
 bool c_get_with_entities::p_refuse_entity(std::string const& message) {
@@ -409,15 +409,15 @@ bool c_get_with_entities::p_charge(unsigned long long cost) {
   return p_refuse_entity("Entity expansion out of proportion");
 }
 
-// The entity's text is read next, markup included.
-bool c_get_with_entities::p_set_input_entity_value(std::string const& value) {
+bool c_get_with_entities::set_input_entity_value(char const* value) {
   for (c_dtd_active_entity const& active : m_active) {
-    if (active.value() == value.c_str()) return p_refuse_entity("Recursive entity definition for: " + value);
+    if (active.value() == value)
+      return p_refuse_entity(std::string("Recursive entity definition for: ") + value);
   }
   if (m_active.size() == limits::active_entities) return p_refuse_entity("Entities nested too deep");
   if (!p_charge(limits::reference_cost)) return false;
   forget_mark();
-  m_active.emplace_back(value.c_str());
+  m_active.emplace_back(value);
   return true;
 }
 
@@ -509,7 +509,7 @@ bool c_get_with_entities::select_general_entity(c_entity_name_reader& reader, st
   }
   if (std::string const* const* const value = m_general_entities.find(name)) {
     if (!reader.m_push_as_input) return p_append_entity(**value, out);
-    p_set_input_entity_value(**value);  // a refusal is fatal, and shows as the end of the input
+    set_input_entity_value((*value)->c_str());  // a refusal is fatal, and shows as the end of the input
     return true;
   }
   out->reserve(out->size() + name.size() + 2);

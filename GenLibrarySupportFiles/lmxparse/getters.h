@@ -45,10 +45,10 @@ class ISOXML_API c_unget_buffer {
   bool empty() const { return m_free_index == 0; }
   void clear() { m_free_index = 0; }
 
- private:
+ protected:
   static constexpr unsigned size = 3;
   int m_values[size] = {};
-  unsigned m_free_index = 0;
+  unsigned m_free_index = 0;  ///< How many are in use.
 };
 
 /// A run of bytes that may be taken as they are.
@@ -179,6 +179,8 @@ class ISOXML_API c_get_as_utf8 {
   void p_read_single_utf8_compound_char_sequence(int first, char* out);
   int p_deliver_buffer();
 
+ protected:
+  // State, for derived getters to read.
   c_read& mr_read;
   c_error& mr_error;
   c_getter_error_binder m_binder;
@@ -191,6 +193,8 @@ class ISOXML_API c_get_as_utf8 {
   char const* mp_pending = nullptr;  // its bytes still to deliver, or null
   bool m_pending_end = false;        // one -1 is to be delivered
   int m_line = 1;
+
+ private:
   unsigned long long m_bytes_read = 0;
   unsigned char const* mp_mark = nullptr;
   buffer_tenant* mp_tenant = nullptr;
@@ -219,7 +223,7 @@ class ISOXML_API c_dtd_active_entity {
   char const* value() const { return mp_value; }
   c_unget_buffer& unget_buffer() { return m_unget; }
 
- private:
+ protected:
   char const* p_current;
   char const* mp_value;
   c_unget_buffer m_unget;  // what is pushed back inside an entity stays with it
@@ -271,18 +275,20 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   /// The same for a numeric reference whose "&#" has been read. Values up to 0x100000, NUL and
   /// surrogates included.
   bool insert_character_entity(c_entity_name_reader& reader, std::string* out);
+  /// Makes `value` the next input, markup included. It is borrowed until it is read to its end or the
+  /// document starts again. False, with a fatal 9, while that very text is being read already, and for too
+  /// much of it.
+  bool set_input_entity_value(char const* value);
 
  private:
   using entities = c_repository<std::string const*>;
 
   int p_get_from_entity();
   void p_add_entity(entities* to, std::string const& name, std::string const& value);
-  bool p_set_input_entity_value(std::string const& value);
   bool p_append_entity(std::string const& value, std::string* out);
   bool p_charge(unsigned long long cost);
   bool p_refuse_entity(std::string const& message);
 
-  const bool m_normalize_char_refs;
   std::string m_entity_name;
   std::vector<c_dtd_active_entity> m_active;    // read as input, innermost last
   std::vector<std::string const*> m_expanding;  // expanded as text, innermost last
@@ -290,6 +296,10 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   entities m_general_entities;
   entities m_parameter_entities;
   unsigned long long m_expanded = 0;  // what entities have cost so far
+
+ protected:
+  // State, for derived getters to read.
+  const bool m_normalize_char_refs;
   elmx_whitespace m_ws_mode = EXWS_PRESERVE;
   bool m_pending_space = false;
 };

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -45,10 +46,12 @@ class ISOXML_API c_enumerated_namespaces {
   /// Forgets all but the two standard URIs.
   void clear();
 
+ protected:
+  int m_next_id = nsid_first_user;  ///< The id that the next new URI gets.
+
  private:
   int p_find_or_add(char const* uri, int id);
 
-  int m_next_id = nsid_first_user;
   c_repository<int> m_ids;
   std::unordered_map<int, std::size_t> m_places;  // of the first URI of each id
 };
@@ -66,6 +69,13 @@ struct ISOXML_API c_namespace_context {
 
 /// One attribute or element that the schema leaves open, as text.
 struct ISOXML_API c_any_info {
+  c_any_info() = default;
+  /// With room for the prefixes of a usual document.
+  c_any_info(std::string uri, std::string name, std::string value)
+      : m_namespace(std::move(uri)), m_name(std::move(name)), m_value(std::move(value)) {
+    m_context.m_items.reserve(6);
+  }
+
   std::string m_namespace;
   std::string m_name;
   std::string m_value;
@@ -206,12 +216,15 @@ class ISOXML_API c_cracked_name {
 
   /// The id; a name without a prefix and without a default namespace is in none.
   int get_element_ns_id() const { return m_id != nsid_not_found || m_has_prefix ? m_id : nsid_none; }
+  /// The id of the prefix; of the default namespace, or 1 for an attribute, where there is none.
   int ns_id() const { return m_id; }
   bool has_prefix() const { return m_has_prefix; }
   std::string const& name() const { return m_name; }
   /// The local name: its first byte and its length. Valid until the next `set`.
   char const* local_name() const { return m_name.c_str() + m_local_offset; }
   std::size_t local_length() const { return m_name.size() - m_local_offset; }
+  /// What precedes the first colon; empty without one.
+  std::string prefix() const { return m_name.substr(0, m_has_prefix ? m_local_offset - 1 : 0); }
 
  private:
   void p_set(c_xml_local const* local, std::string const& name);

@@ -116,7 +116,8 @@ class ISOXML_API c_big_int {
   bool p_equals(char const* text) const noexcept;
   bool p_is_greater(char const* text) const noexcept;
 
-  std::string m_text;
+ protected:
+  std::string m_text;  ///< A "-" for a negative number, then its digits without leading zeros.
 };
 
 /// Writes the value's text as it is: width, fill, flags and locale of the stream have no say.

@@ -58,9 +58,16 @@ run("building the examples" ${CMAKE_COMMAND} --build ${work_dir}/examples)
 run("an example" ${work_dir}/examples/list_fields ${source_dir}/examples/sets/complete)
 
 find_program(pkg_config pkg-config REQUIRED)
-set(ENV{PKG_CONFIG_PATH} ${prefix}/${libdir}/pkgconfig)
+# Nor need a user of pkg-config: it is shown no package but ours.
+set(ENV{PKG_CONFIG_LIBDIR} ${prefix}/${libdir}/pkgconfig)
+unset(ENV{PKG_CONFIG_PATH})
 execute_process(COMMAND ${pkg_config} --cflags --libs isoxml OUTPUT_VARIABLE package_flags
                 OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${pkg_config} --static --libs isoxml OUTPUT_VARIABLE static_libraries
+                COMMAND_ERROR_IS_FATAL ANY)
+if(package_flags MATCHES "xml2" OR NOT static_libraries MATCHES "-lxml2")
+  message(FATAL_ERROR "libxml2 is for who links statically: ${package_flags}, with --static ${static_libraries}")
+endif()
 separate_arguments(flags UNIX_COMMAND "${flags}")
 separate_arguments(package_flags UNIX_COMMAND "${package_flags}")
 run("compiling by pkg-config" ${compiler} ${flags} -std=c++17 -Wall -Wextra -Wpedantic -Werror

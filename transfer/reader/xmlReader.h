@@ -30,7 +30,7 @@ struct ISOXML_API file_input {
 /// Reads one document. The lists hold borrowed pointers in the order in which the elements ended: they belong
 /// to the element tree and die with it. After a failed read none of them may be used.
 /// Threads: one at a time. The file stays open until destruction.
-class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
+class ISOXML_API xmlReader : protected detail::file_input, public c_xml_reader {
  public:
   /// Opens `fileName`. A failed open throws nothing and reports nothing: ask `isOpen`.
   explicit xmlReader(char const* fileName);
@@ -86,7 +86,8 @@ class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
   /// must not be null, nor what it points at is changed.
   static std::vector<Polygon> getPolygonList(InnerPolygon*& rings);
 
- private:
+ protected:
+  // What has been handed over, for derived readers; the elements are borrowed.
   std::vector<Grower*> growers;
   std::vector<Farm*> farms;
   std::vector<Field*> fields;

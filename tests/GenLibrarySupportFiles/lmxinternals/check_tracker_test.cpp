@@ -28,6 +28,25 @@ TEST(CheckTracker, HoldsItsLink) {
   EXPECT_EQ(&root, link.mp_parent);
 }
 
+TEST(CheckTracker, IsMadeInTheOrderOfItsMembersToo) {
+  lmx::c_check_exception exception;
+  lmx::c_check_tracker root{&exception, nullptr, "TSK"};
+  EXPECT_EQ(&exception, root.mp_exception);
+  EXPECT_EQ(nullptr, root.mp_parent);
+  EXPECT_STREQ("TSK", root.mp_name);
+  const lmx::c_check_tracker link{nullptr, &root, "A"};
+  EXPECT_EQ(nullptr, link.mp_exception);
+  EXPECT_EQ(&root, link.mp_parent);
+  EXPECT_STREQ("A", link.mp_name);
+  const lmx::c_check_tracker nothing{nullptr, nullptr, nullptr};
+  EXPECT_EQ(nullptr, nothing.mp_exception);
+  EXPECT_EQ(nullptr, nothing.mp_parent);
+  EXPECT_EQ(nullptr, nothing.mp_name);
+
+  EXPECT_FALSE(lmx::report_check_failure(&link, "file", 3));
+  EXPECT_EQ("/TSK/A", exception.get_path());
+}
+
 TEST(CheckFailure, IsFalseAndOnRecordForTheProcess) {
   const lmx::c_check_tracker root(nullptr, "TSK");
   EXPECT_FALSE(lmx::report_check_failure(&root, "file", 7));

@@ -168,6 +168,36 @@ TEST(ErrorLog, KeepsTheLastReportUntilAFatalOneCloses) {
   EXPECT_EQ(3u, log.reports.size());  // nor is the hook called
 }
 
+TEST(ErrorLog, ShowsWhatItKeeps) {
+  lmx::c_error log;
+  EXPECT_EQ(nullptr, log.mp_getter);
+  log.error(lmx::EET_NOTE, lmx::ELMX_BAD_COMMENT, "a", 1, "");
+  log.error(lmx::EET_ERROR, lmx::ELMX_NOT_WELL_FORMED, "a", 2, "");
+  log.error(lmx::EET_FATAL, lmx::ELMX_BAD_DTD, "a", 3, "");
+  EXPECT_EQ(1u, log.m_fatal_count);
+  EXPECT_EQ(2u, log.m_error_count);
+  EXPECT_EQ(1u, log.m_warning_count);
+  EXPECT_EQ(1u, log.m_note_count);
+  EXPECT_EQ(lmx::EET_FATAL, log.m_last_type);
+  EXPECT_EQ(lmx::ELMX_BAD_DTD, log.m_last_code);
+  EXPECT_EQ(3, log.m_last_line);
+}
+
+TEST(ErrorLog, OfAReaderIsThereForDerivedReaders) {
+  class OwnReader : public lmx::c_xml_reader {
+   public:
+    using c_xml_reader::c_xml_reader;
+    lmx::c_error& log() { return m_error; }
+  };
+  MemoryRead memory("<a");
+  OwnReader reader(memory);
+  EXPECT_NE(nullptr, reader.log().mp_getter);
+  elmx_error error;
+  reader.get_element_event(&error, &reader.m_name);
+  EXPECT_EQ(lmx::ELMX_NOT_WELL_FORMED, reader.log().m_last_code);
+  EXPECT_EQ(1u, reader.log().m_error_count);
+}
+
 TEST(ErrorLog, HandsAllFiveArgumentsToTheHook) {
   RecordingError log;
   log.error(lmx::EET_NOTE, lmx::ELMX_UNEXPECTED_ENTITY, "file.xml", 7, "text");

@@ -887,6 +887,128 @@ TEST(Helper, RunsAttributesThenCheckThenBody) {
   }
 }
 
+// What a derived class may read and call, in an order of its own: the end first, then the attributes are
+// gone.
+class ByHand : public lmx::c_unmarshal_helper {
+ public:
+  using c_unmarshal_helper::c_unmarshal_helper;
+  using c_unmarshal_helper::m_code_file;
+  using c_unmarshal_helper::m_code_line;
+  using c_unmarshal_helper::m_name_offset;
+  using c_unmarshal_helper::mp_name_stack;
+  using c_unmarshal_helper::mr_reader;
+  using c_unmarshal_helper::unmarshal_all_attributes;
+  using c_unmarshal_helper::unmarshal_complex_content_case;
+  using c_unmarshal_helper::unmarshal_empty_content_case;
+  using c_unmarshal_helper::unmarshal_simple_content_case;
+  using c_unmarshal_helper::verify_element_end;
+  bool unmarshal_simple_body(elmx_error* error) override {
+    if (!mr_reader.get_element_value(&text, lmx::EXWS_COLLAPSE))
+      *error = lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE;
+    return *error == lmx::ELMX_OK;
+  }
+  bool unmarshal_complex_body(elmx_error*) override { return true; }
+  string text;
+};
+
+TEST(DerivedHelper, SeesItsReaderItsNameAndItsPlace) {
+  MemoryRead memory("<X></X>");
+  Reader reader(memory);
+  reader.m_name = "outer";
+  const lmx::c_unmarshal_helper outer(reader);
+  elmx_error error;
+  reader.get_element_event(&error, &reader.m_name);
+  ByHand helper(reader);
+  EXPECT_EQ(&reader, &helper.mr_reader);
+  EXPECT_EQ(&reader.m_name_stack, helper.mp_name_stack);
+  EXPECT_EQ(6u, helper.m_name_offset);
+  EXPECT_STREQ("X", helper.mp_name_stack->data() + helper.m_name_offset);
+  EXPECT_EQ(nullptr, helper.m_code_file);
+  EXPECT_EQ(0, helper.m_code_line);
+  EXPECT_EQ(nullptr, helper.mp_any_attributes);
+  EXPECT_FALSE(helper.m_empty_allowed);
+  helper.m_empty_allowed = true;
+  EXPECT_EQ(lmx::ELMX_OK, helper.unmarshal_complex_content("file", 7));
+  EXPECT_STREQ("file", helper.m_code_file);
+  EXPECT_EQ(7, helper.m_code_line);
+}
+
+TEST(DerivedHelper, TakesTheStepsOfAReadByItself) {
+  struct Row {
+    const char* caption;
+    string document;
+    std::function<elmx_error(ByHand&)> content;
+    int result;
+  };
+  const auto empty = [](ByHand& helper) { return helper.unmarshal_empty_content_case(); };
+  const auto simple = [](ByHand& helper) { return helper.unmarshal_simple_content_case(); };
+  const auto complex = [](ByHand& helper) { return helper.unmarshal_complex_content_case(); };
+  const auto end = [](ByHand& helper) { return helper.verify_element_end(); };
+  for (auto const& row :
+       {Row{"empty", "<X a=''></X>", empty, 0}, Row{"text in an empty one", "<X>t</X>", empty, 10},
+        Row{"text", "<X a=''>t</X>", simple, 0}, Row{"a child in text", "<X>t<Y/></X>", simple, 0},
+        Row{"children", "<X a=''><Y/></X>", complex, 0}, Row{"no children", "<X></X>", complex, 32},
+        Row{"end", "<X a=''></X>", end, 0}, Row{"empty tag's end", "<X/>", end, 0},
+        Row{"another end", "<X></Y>", end, 10}, Row{"no end", "<X>", end, 34}}) {
+    SCOPED_TRACE(row.caption);
+    with_each_source(row.document, [&](lmx::c_read& read) {
+      Reader reader(read);
+      reader.m_skip_unknown = true;
+      elmx_error error;
+      reader.get_element_event(&error, &reader.m_name);
+      ByHand helper(reader);
+      helper.m_code_file = "file";
+      ASSERT_EQ(lmx::ELMX_OK, helper.unmarshal_all_attributes());
+      EXPECT_EQ(row.result, row.content(helper));
+      EXPECT_EQ(row.document.find('t') == string::npos || row.result != 0 ? "" : "t", helper.text);
+    });
+  }
+}
+
+TEST(UnknownAttributes, GoToTheListOfWhoWantsThemAndBelongToIt) {
+  const string document = "<X a=' 1 ' xmlns:p='urn:p' p:b='&lt;' q:c=''/>";
+  with_each_source(document, [](lmx::c_read& read) {
+    Reader reader(read);
+    reader.m_skip_unknown = true;
+    const lmx::c_xml_reader_local scope(reader);
+    elmx_error error;
+    reader.get_element_event(&error, &reader.m_name);
+    std::vector<lmx::c_any_info*> kept;
+    {
+      ByHand helper(reader);
+      helper.m_empty_allowed = true;
+      helper.mp_any_attributes = &kept;
+      EXPECT_EQ(lmx::ELMX_OK, helper.unmarshal_complex_content("file", 1));
+    }
+    EXPECT_EQ("", reader.reports());  // the hook is not asked
+    string found;
+    for (lmx::c_any_info* info : kept) {
+      found += "{" + info->m_namespace + "}" + info->m_name + "=" + info->m_value + ";";
+      EXPECT_EQ(0u, info->m_context.m_items.size());
+      EXPECT_LE(6u, info->m_context.m_items.capacity());
+      delete info;
+    }
+    EXPECT_EQ("{}a= 1 ;{urn:p}p:b=<;{ }q:c=;", found);
+  });
+}
+
+TEST(UnknownAttributes, ThatCanNotBeReadAreLeftOutOfTheList) {
+  with_each_source("<X a='&no;' b='1'/>", [](lmx::c_read& read) {
+    Reader reader(read);
+    reader.is_tolerated = any_error;
+    elmx_error error;
+    reader.get_element_event(&error, &reader.m_name);
+    std::vector<lmx::c_any_info*> kept;
+    ByHand helper(reader);
+    helper.mp_any_attributes = &kept;
+    EXPECT_EQ(lmx::ELMX_OK, helper.unmarshal_empty_content("file", 1));
+    EXPECT_EQ("28 a", reader.reports());
+    ASSERT_EQ(1u, kept.size());
+    EXPECT_EQ("b", kept[0]->m_name);
+    delete kept[0];
+  });
+}
+
 TEST(SkippedBody, OnlyChecksTheEnd) {
   struct Row {
     const char* caption;

@@ -1025,6 +1025,44 @@ TEST(AnyLine, IsWrittenAsItIsOnALineOfItsOwn) {
   EXPECT_EQ("<a b='&'>]]></a>\n<X\t<Y\t\t<a b='&'>]]></a>\n", document.text());
 }
 
+// ---- State ----
+
+class OwnWriter : public c_xml_writer {
+ public:
+  using c_xml_writer::c_xml_writer;
+  using c_xml_writer::m_default_attribute_nl;
+  using c_xml_writer::m_default_attribute_tab;
+  using c_xml_writer::m_default_nl;
+  using c_xml_writer::m_default_tab;
+  using c_xml_writer::m_error;
+};
+
+TEST(DerivedWriter, SeesTheDefaultsThatTheSettersKeep) {
+  const DefaultFormats restored;
+  EXPECT_EQ("\t", OwnWriter::m_default_tab);
+  EXPECT_EQ("\n", OwnWriter::m_default_nl);
+  EXPECT_EQ("\t", OwnWriter::m_default_attribute_tab);
+  EXPECT_EQ("\n", OwnWriter::m_default_attribute_nl);
+  c_xml_writer::set_default_tab("1");
+  c_xml_writer::set_default_nl("2");
+  c_xml_writer::set_default_attribute_tab("3");
+  c_xml_writer::set_default_attribute_nl("4");
+  EXPECT_EQ("1", OwnWriter::m_default_tab);
+  EXPECT_EQ("2", OwnWriter::m_default_nl);
+  EXPECT_EQ("3", OwnWriter::m_default_attribute_tab);
+  EXPECT_EQ("4", OwnWriter::m_default_attribute_nl);
+}
+
+TEST(DerivedWriter, HasALogOfItsOwn) {
+  std::ostringstream out;
+  OwnWriter writer(out);
+  EXPECT_EQ(lmx::EET_NONE, writer.m_error.m_last_type);
+  EXPECT_EQ(lmx::ELMX_BAD_CHOICE, writer.report_error(lmx::ELMX_BAD_CHOICE, "item", "file", 1));
+  EXPECT_EQ(0u, writer.m_error.m_error_count);  // the binding's errors are no reports of the character level
+  writer.m_error.error(lmx::EET_ERROR, lmx::ELMX_OCCURS_ERROR, "");
+  EXPECT_EQ(1u, writer.m_error.m_error_count);
+}
+
 // ---- Errors ----
 
 /// Notes what the hooks are asked.

@@ -808,6 +808,32 @@ TEST(Entity, ThatAHostReplacesWhileItIsReadIsReadToItsEnd) {
   });
 }
 
+TEST(InputEntity, IsReadNextAndThenWhatStoodBehindIt) {
+  with_getter_inside("after", [](lmx::c_get_for_xml& getter, RecordingError& log) {
+    const std::string outer = "outer", inner = "<&;", empty;
+    EXPECT_TRUE(getter.set_input_entity_value(outer.c_str()));
+    EXPECT_EQ('o', getter.get());
+    EXPECT_TRUE(getter.set_input_entity_value(inner.c_str()));
+    EXPECT_TRUE(getter.set_input_entity_value(empty.c_str()));
+    EXPECT_EQ("<&;uterafter", rest(getter));
+    EXPECT_EQ(0u, log.reports.size());
+  });
+}
+
+TEST(InputEntity, WithinItselfIsFatalAndKnownByItsAddress) {
+  with_getter_inside("after", [](lmx::c_get_for_xml& getter, RecordingError& log) {
+    const std::string value = "text", same_text = "text";
+    EXPECT_TRUE(getter.set_input_entity_value(value.c_str()));
+    EXPECT_TRUE(getter.set_input_entity_value(same_text.c_str()));
+    EXPECT_FALSE(getter.set_input_entity_value(value.c_str()));
+    ASSERT_EQ(1u, log.reports.size());
+    EXPECT_EQ(lmx::EET_FATAL, log.last_type());
+    EXPECT_EQ(lmx::ELMX_BAD_DTD, log.last_code());
+    EXPECT_EQ("Recursive entity definition for: text", log.reports[0].message);
+    EXPECT_EQ("", rest(getter));
+  });
+}
+
 // --- Scans -----------------------------------------------------------------------------------------------
 
 struct Scan {

@@ -243,6 +243,8 @@ void expect_cracked(lmx::c_xml_local const& scope, Cracked const& row) {
   EXPECT_EQ(row.name, cracked.name());
   EXPECT_EQ(row.has_prefix, cracked.has_prefix());
   EXPECT_EQ(row.local_name, string(cracked.local_name(), cracked.local_length()));
+  const std::size_t colon = row.name.find(':');
+  EXPECT_EQ(row.name.substr(0, colon == string::npos ? 0 : colon), cracked.prefix());
   EXPECT_EQ(row.id, cracked.ns_id());
   EXPECT_EQ(row.element_id, cracked.get_element_ns_id());
   cracked.set_for_attribute(&scope, row.name);
@@ -268,6 +270,21 @@ TEST(CrackedName, PartsAtTheFirstColon) {
   }
 }
 
+TEST(CrackedName, OfAReaderIsThereForDerivedReaders) {
+  class OwnReader : public lmx::c_xml_reader {
+   public:
+    using c_xml_reader::c_xml_reader;
+    lmx::c_cracked_name const& cracked() const { return m_cracked_name; }
+  };
+  MemoryRead memory("<p:a/>");
+  OwnReader reader(memory);
+  lmx::elmx_error error;
+  reader.get_element_event(&error, &reader.m_name);
+  EXPECT_EQ("p", reader.cracked().prefix());
+  EXPECT_STREQ("a", reader.cracked().local_name());
+  EXPECT_EQ(0, reader.cracked().ns_id());
+}
+
 TEST(CrackedName, TakesTheDefaultNamespaceForElementsOnly) {
   lmx::c_xml_local scope;
   scope.add_namespace("", 1000);
@@ -276,6 +293,14 @@ TEST(CrackedName, TakesTheDefaultNamespaceForElementsOnly) {
   expect_cracked(scope, {"default taken back", "a", false, "a", 1, 1, 1});
   scope.add_namespace("", 0);
   expect_cracked(scope, {"default bound to nothing", "a", false, "a", 0, 1, 1});
+}
+
+TEST(AnyInfo, IsMadeOfItsThreeTexts) {
+  const lmx::c_any_info info("urn:p", "p:a", "1");
+  EXPECT_EQ("urn:p", info.m_namespace);
+  EXPECT_EQ("p:a", info.m_name);
+  EXPECT_EQ("1", info.m_value);
+  EXPECT_TRUE(info.m_context.m_items.empty());
 }
 
 // --- Documents -------------------------------------------------------------------------------------------
