@@ -522,6 +522,24 @@ TEST(HostileSet, WithMoreFilesThanMayBeOpenKeepsThoseThatCouldBeOpened) {
   EXPECT_EQ(open_before, open_files());
 }
 
+// A field whose guidance is one pivot line of these points.
+std::string pivot(std::string const& points) {
+  return "<PFD A='PFD1' C='f' D='1'><GGP A='GGP1'><GPN A='GPN1' C='4'><LSG A='5'>" + points +
+         "</LSG></GPN></GGP></PFD>";
+}
+
+TEST(HostileSet, WithAPivotOfAMillionCentresGivesThemLastFirst) {
+  const TransferSet set(pivot("<PNT A='2' C='7' D='7'/>" + numbered("<PNT A='8' C='0.#' D='1'/>", million)));
+  ASSERT_EQ(0u, set->getErrors().size());
+  const std::vector<IsoField> fields = set->getFields();
+  std::vector<Location> const& points = fields.at(0).guidanceGroups.at(0).guidanceLines.at(0).points;
+  ASSERT_EQ(million + 1, points.size());
+  EXPECT_EQ(0.999999, points[0].north);
+  EXPECT_EQ(0.999998, points[1].north);
+  EXPECT_EQ(0.0, points[million - 1].north);
+  EXPECT_EQ(7.0, points[million].north);
+}
+
 // ---- NUL bytes ----
 
 // A good document in pieces: what comes of a NUL in front of each of a piece's characters.
