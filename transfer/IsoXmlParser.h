@@ -107,8 +107,11 @@ class ISOXML_API IsoXmlParser {
   std::vector<lmx::TaskInfo> getTaskInfoList() const;
   /// Fills `map` for the task that has the identifier of `info`: zones from the documents, the last task of
   /// that identifier winning, all else from `info`. Without such a task `taskId` and `treatmentZones` keep
-  /// what they held: hand in a fresh map to tell.
+  /// what they held: hand in a fresh map to tell. Each call looks at the tasks' identifiers as they are then.
   void getISORxMap(lmx::TaskInfo info, lmx::ISORxMap& map) const;
+  /// The maps of all tasks, in their order: what `getISORxMap` gives for each, in one pass over them. Of
+  /// tasks that share an identifier the last one alone has a map, and one without an identifier has none.
+  std::vector<lmx::ISORxMap> getISORxMaps() const;
 
   /// Opens and reads one document of the directory. Empty on failure, which adds a record to `getErrors`.
   /// @param error  receives the code; may be null

@@ -1,5 +1,6 @@
 #include "transfer/reader/xmlReader.h"
 
+#include <algorithm>
 #include <mutex>
 #include <utility>
 
@@ -31,6 +32,12 @@ xmlReader::~xmlReader() = default;
 
 void xmlReader::setP917Metadata(P917Metadata* metadata) {
   p917Metadata = keep(std::unique_ptr<P917Metadata>(metadata->clone()));
+}
+
+Task* xmlReader::findLastTask(std::string const& id) const {
+  const auto last =
+      std::find_if(tasks.rbegin(), tasks.rend(), [&](Task const* task) { return task->GetId() == id; });
+  return last == tasks.rend() ? nullptr : *last;
 }
 
 std::vector<TaskInfo> xmlReader::getTaskInfoList() const {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse/c_read.h"
@@ -77,6 +78,8 @@ class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
   /// The last "P917_Metadata" that was completed, or null. Valid until the process ends.
   P917Metadata* getP917Metadata() const { return p917Metadata; }
 
+  /// The last of the tasks that has the identifier, or null. Borrowed from the document.
+  Task* findLastTask(std::string const& id) const;
   /// A record for each task, in the order of `getTaskContainer`.
   std::vector<TaskInfo> getTaskInfoList() const;
   /// A record for each treatment zone of `task`, in document order. Neither the pointer, which must not be
