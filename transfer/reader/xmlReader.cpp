@@ -30,6 +30,20 @@ xmlReader::xmlReader(c_read& given) : detail::file_input(given), c_xml_reader(mr
 
 xmlReader::~xmlReader() = default;
 
+void xmlReader::forgetElements() {
+  growers.clear();
+  farms.clear();
+  fields.clear();
+  externalFileReferences.clear();
+  attachedFiles.clear();
+  tasks.clear();
+  products.clear();
+  valuePresentations.clear();
+  questions.clear();
+  cropTypes.clear();
+  productGroups.clear();
+}
+
 void xmlReader::setP917Metadata(P917Metadata* metadata) {
   p917Metadata = keep(std::unique_ptr<P917Metadata>(metadata->clone()));
 }

@@ -29,7 +29,8 @@ struct ISOXML_API file_input {
 }  // namespace detail
 
 /// Reads one document. The lists hold borrowed pointers in the order in which the elements ended: they belong
-/// to the element tree and die with it. After a failed read none of them may be used.
+/// to the element tree and die with it. After a failed read none of them may be used. A reader that reads
+/// another document, or the same once more, begins with empty lists.
 /// Threads: one at a time. The file stays open until destruction.
 class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
  public:
@@ -43,6 +44,8 @@ class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
   /// True when the source can be read.
   bool isOpen() const { return mr_source.is_open(); }
 
+  /// Empties the lists. Called by element classes where a document begins.
+  void forgetElements();
   // Called by element classes at their end, when nothing went wrong. The pointers are borrowed.
   void addNewGrower(Grower* grower) { growers.push_back(grower); }
   void addNewFarm(Farm* farm) { farms.push_back(farm); }
@@ -75,7 +78,8 @@ class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
   std::vector<P917Question*> getQuestions() const { return questions; }
   std::vector<CropType*> getCropTypeContainer() const { return cropTypes; }
   std::vector<ProductGroup*> getProductGroupContainer() const { return productGroups; }
-  /// The last "P917_Metadata" that was completed, or null. Valid until the process ends.
+  /// The last "P917_Metadata" that was completed, in whichever document, or null. Valid until the process
+  /// ends.
   P917Metadata* getP917Metadata() const { return p917Metadata; }
 
   /// The last of the tasks that has the identifier, or null. Borrowed from the document.
