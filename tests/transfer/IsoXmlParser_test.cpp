@@ -2,8 +2,13 @@
 // failed, by code and by line.
 #include "transfer/IsoXmlParser.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <cstddef>
 #include <filesystem>
@@ -278,6 +283,84 @@ TEST(Failures, OfADirectoryLookLikeAnEmptyFile) {
   const IsoXmlParser parser(directory.path(), "TASKDATA");
   ASSERT_EQ("34 TASKDATA", errors(parser));
   EXPECT_EQ(1, parser.getErrors()[0].line);
+}
+
+// What a document that is not there gets, in both lists.
+void expect_like_a_missing_file(IsoXmlParser const& parser, std::size_t document_index,
+                                std::size_t error_index, std::string const& name) {
+  TempDir empty;
+  const IsoXmlParser missing(empty.path(), name);
+  const IsoDocument expected = missing.getDocuments().at(0);
+  const IsoDocument found = parser.getDocuments().at(document_index);
+  EXPECT_EQ(expected.name, found.name);
+  EXPECT_EQ(expected.error, found.error);
+  EXPECT_EQ(expected.line, found.line);
+  EXPECT_EQ(expected.item, found.item);
+  EXPECT_EQ(expected.message, found.message);
+  EXPECT_EQ(nullptr, found.root);
+  const IsoXmlError expected_error = missing.getErrors().at(0);
+  const IsoXmlError error = parser.getErrors().at(error_index);
+  EXPECT_EQ(lmx::ELMX_NO_FILE, error.error);
+  EXPECT_EQ(expected_error.line, error.line);
+  EXPECT_EQ(expected_error.fileName, error.fileName);
+  EXPECT_EQ(expected_error.message, error.message);
+}
+
+void make_socket(std::string const& path) {
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(path.size(), sizeof address.sun_path);
+  path.copy(address.sun_path, path.size());
+  const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
+  EXPECT_EQ(0, bind(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address));
+  close(descriptor);
+}
+
+// Nobody feeds the FIFO: whoever waits for it waits for ever.
+TEST(Failures, OfFifosSocketsAndDevicesAreOfCode1AtOnce) {
+  const struct {
+    char const* caption;
+    void (*make)(std::string const& path);
+  } rows[] = {
+      {"a FIFO", [](std::string const& path) { ASSERT_EQ(0, mkfifo(path.c_str(), 0600)); }},
+      {"a socket", make_socket},
+      {"a device", [](std::string const& path) { ASSERT_EQ(0, symlink("/dev/zero", path.c_str())); }},
+      {"an empty one", [](std::string const& path) { ASSERT_EQ(0, symlink("/dev/null", path.c_str())); }},
+  };
+  for (auto const& row : rows) {
+    SCOPED_TRACE(row.caption);
+    TempDir directory;
+    directory.write("TASKDATA.XML", task_data(attached("LINKLIST.XML") + reference("CTR00001") +
+                                              reference("CTR00002") + reference("CTR00001")));
+    directory.write("CTR00002.XML", "<XFC/>");
+    row.make(directory.path("LINKLIST.XML"));
+    row.make(directory.path("CTR00001.XML"));
+    row.make(directory.path("MAINFILE.XML"));
+    const IsoXmlParser parser(directory.path(), "TASKDATA");
+    EXPECT_EQ(
+        "main TASKDATA 0, links LINKLIST.XML 1, external CTR00001 1, external CTR00002 0, "
+        "external CTR00001 1",
+        documents(parser));
+    expect_like_a_missing_file(parser, 1, 0, "LINKLIST.XML");
+    expect_like_a_missing_file(parser, 2, 1, "CTR00001");
+    const IsoXmlParser of_none(directory.path(), "MAINFILE");
+    EXPECT_EQ("main MAINFILE 1", documents(of_none));
+    expect_like_a_missing_file(of_none, 0, 0, "MAINFILE");
+  }
+}
+
+TEST(Failures, OfAFifoTakeNothingFromIt) {
+  TempDir directory;
+  const std::string path = directory.path("TASKDATA.XML");
+  ASSERT_EQ(0, mkfifo(path.c_str(), 0600));
+  const int pipe = open(path.c_str(), O_RDWR | O_NONBLOCK);  // both ends, so that it can be filled
+  const std::string bytes = task_data("");
+  ASSERT_EQ(static_cast<ssize_t>(bytes.size()), write(pipe, bytes.data(), bytes.size()));
+  EXPECT_EQ("1 TASKDATA", errors(IsoXmlParser(directory.path(), "TASKDATA")));
+  std::string left(bytes.size() + 1, ' ');
+  EXPECT_EQ(static_cast<ssize_t>(bytes.size()), read(pipe, left.data(), left.size()));
+  EXPECT_EQ(0, left.compare(0, bytes.size(), bytes));
+  close(pipe);
 }
 
 // --- External files --------------------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 
 #include "isoxmllib/task.h"
 #include "isoxmllib/task_data.h"
+#include "transfer/reader/document_file.h"
 
 namespace lmx {
 
@@ -23,6 +24,9 @@ P917Metadata* keep(std::unique_ptr<P917Metadata> clone) {
 }
 
 }  // namespace
+
+detail::file_input::file_input(char const* fileName)
+    : fileInput(std::make_unique<c_read_file>(fileName, open_document)), mr_source(*fileInput) {}
 
 xmlReader::xmlReader(char const* fileName) : detail::file_input(fileName), c_xml_reader(mr_source, true) {}
 

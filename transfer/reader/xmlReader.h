@@ -19,8 +19,7 @@ namespace detail {
 
 /// Holds the file, if the reader has one of its own, so that it is there before the reader and outlives it.
 struct ISOXML_API file_input {
-  explicit file_input(char const* fileName)
-      : fileInput(std::make_unique<c_read_file>(fileName)), mr_source(*fileInput) {}
+  explicit file_input(char const* fileName);
   explicit file_input(c_read& given) : mr_source(given) {}
   std::unique_ptr<c_read_file> fileInput;
   c_read& mr_source;
@@ -34,7 +33,9 @@ struct ISOXML_API file_input {
 /// Threads: one at a time. The file stays open until destruction.
 class ISOXML_API xmlReader : private detail::file_input, public c_xml_reader {
  public:
-  /// Opens `fileName`. A failed open throws nothing and reports nothing: ask `isOpen`.
+  /// Opens `fileName`, a file or a directory. A failed open throws nothing and reports nothing: ask `isOpen`.
+  /// A FIFO, a socket or a device is not opened, nor waited for; a `c_read_file` given as the source reads
+  /// those.
   explicit xmlReader(char const* fileName);
   /// Reads from `source`, which is borrowed and must outlive the reader: a document in memory, an archive, a
   /// network.

@@ -2,6 +2,7 @@
 #include "transfer/reader/xmlReader.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cstddef>
 #include <filesystem>
@@ -286,6 +287,18 @@ TEST(File, ThatCannotBeOpenedIsNotOpen) {
     EXPECT_EQ(34, root.unmarshal(reader));  // reads like an empty file, for callers that do not ask
   }
   EXPECT_EQ(before, open_files());
+}
+
+TEST(File, ThatIsAFifoOrADeviceIsNotOpened) {
+  TempDir directory;
+  const std::string fifo = directory.path("FIFO.XML");
+  ASSERT_EQ(0, mkfifo(fifo.c_str(), 0600));
+  const std::size_t before = open_files();
+  for (std::string const& path : {fifo, std::string("/dev/null"), std::string("/dev/zero")}) {
+    lmx::xmlReader reader(path.c_str());
+    EXPECT_FALSE(reader.isOpen()) << path;
+    EXPECT_EQ(before, open_files()) << path;
+  }
 }
 
 TEST(File, ThatIsADirectoryReadsAsEmpty) {
