@@ -1,4 +1,5 @@
-// The one class that a host creates: it opens a transfer set whole and answers from memory.
+// The one class that a host creates: it opens a transfer set whole and answers from memory. This include
+// brings all that its answers are made of: the element classes, the flat records and `IsoDDIConstants`.
 #pragma once
 
 #include <cstdint>
@@ -9,12 +10,12 @@
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxparse/error_codes.h"
-#include "isoxmllib/fwd.h"
-#include "isoxmllib/root.h"
-#include "transfer/ISORxMap.h"
-#include "transfer/IsoField.h"
-#include "transfer/IsoRecords.h"
-#include "transfer/TaskInfo.h"
+#include "isoxmllib/isoxmllib.h"       // IWYU pragma: export
+#include "transfer/ISORxMap.h"         // IWYU pragma: export
+#include "transfer/IsoDDIConstants.h"  // IWYU pragma: export
+#include "transfer/IsoField.h"         // IWYU pragma: export
+#include "transfer/IsoRecords.h"       // IWYU pragma: export
+#include "transfer/TaskInfo.h"         // IWYU pragma: export
 #include "transfer/reader/xmlReader.h"
 
 /// One document that could not be opened or read.
