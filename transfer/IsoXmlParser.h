@@ -123,16 +123,17 @@ class ISOXML_API IsoXmlParser {
   /// of an identifier stays.
   void processLinks(lmx::xmlReader& reader);
 
+  std::string directory;                           ///< The set's, as given to the constructor.
+  std::string fileName;                            ///< The main document's name, as given to the constructor.
+  std::shared_ptr<Xml> mainXml;                    ///< The main document; empty when it failed.
+  std::vector<std::shared_ptr<Xml>> xmlDocuments;  ///< The main document, then each external file read.
+  std::vector<IsoXmlError> errors;                 ///< One for each document that failed, in that order.
+  std::map<std::string, std::string> uuidLinks;    ///< The link list's UUIDs by object identifier.
+
  private:
   std::shared_ptr<Xml> p_open(std::string const& name, lmx::elmx_error* error, IsoDocument* document);
   std::shared_ptr<Xml> p_openOfSet(std::string const& name, IsoDocument::Role role, lmx::elmx_error* error);
   std::string p_path(std::string const& name) const;
 
-  std::string directory;
-  std::string fileName;
-  std::shared_ptr<Xml> mainXml;
-  std::vector<std::shared_ptr<Xml>> xmlDocuments;
-  std::vector<IsoXmlError> errors;
-  std::map<std::string, std::string> uuidLinks;
   std::vector<IsoDocument> documents;
 };

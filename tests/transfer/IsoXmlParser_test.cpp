@@ -32,6 +32,13 @@ static_assert(std::is_same_v<void (IsoXmlParser::*)(), decltype(&IsoXmlParser::c
 static_assert(std::is_same_v<void (IsoXmlParser::*)(lmx::xmlReader&), decltype(&IsoXmlParser::processLinks)>);
 static_assert(std::is_const_v<
               std::remove_reference_t<decltype(std::declval<IsoXmlParser const&>().getErrors().front())>>);
+static_assert(std::is_same_v<std::string, decltype(IsoXmlParser::directory)>);
+static_assert(std::is_same_v<std::string, decltype(IsoXmlParser::fileName)>);
+static_assert(std::is_same_v<std::shared_ptr<IsoXmlParser::Xml>, decltype(IsoXmlParser::mainXml)>);
+static_assert(
+    std::is_same_v<std::vector<std::shared_ptr<IsoXmlParser::Xml>>, decltype(IsoXmlParser::xmlDocuments)>);
+static_assert(std::is_same_v<std::vector<IsoXmlError>, decltype(IsoXmlParser::errors)>);
+static_assert(std::is_same_v<std::map<std::string, std::string>, decltype(IsoXmlParser::uuidLinks)>);
 static_assert(!std::is_same_v<::Point, lmx::Point> && !std::is_same_v<::Polygon, lmx::Polygon> &&
               !std::is_same_v<::TreatmentZone, lmx::TreatmentZone> &&
               !std::is_same_v<::ProcessDataVariable, lmx::ProcessDataVariable>);
@@ -510,6 +517,43 @@ TEST(OpenFile, TellsTheCodeAndRecordsAFailure) {
   EXPECT_EQ(nullptr, set->openFile("NONE.xml", nullptr));
   EXPECT_NE(nullptr, set->openFile("MORE.XML", nullptr));
   EXPECT_EQ("25 BAD, 1 NONE.xml", errors(*set));
+}
+
+// --- Members ---------------------------------------------------------------------------------------------
+
+template <class Before, class Behind>
+bool is_before(Before const& before, Behind const& behind) {
+  return static_cast<void const*>(&before) < static_cast<void const*>(&behind);
+}
+
+TEST(Members, HoldWhatWasGivenAndReadInTheirOrder) {
+  Set set({{"TASKDATA.XML", task_data(attached("LINKLIST.XML") + reference("CTR00001") +
+                                      reference("CTR00002") + "<TSK A='TSK1' G='1'/>")},
+           {"LINKLIST.XML", link_list(group("1", link("CTR1", "uuid")))},
+           {"CTR00002.XML", "<XFC/>"}});
+  IsoXmlParser& parser = *set;
+  EXPECT_TRUE(is_before(parser.directory, parser.fileName) && is_before(parser.fileName, parser.mainXml) &&
+              is_before(parser.mainXml, parser.xmlDocuments) &&
+              is_before(parser.xmlDocuments, parser.errors) && is_before(parser.errors, parser.uuidLinks));
+  EXPECT_TRUE(std::filesystem::exists(parser.directory + "/CTR00002.XML"));
+  EXPECT_EQ("TASKDATA", parser.fileName);
+  ASSERT_EQ(2u, parser.xmlDocuments.size());
+  EXPECT_EQ(parser.mainXml, parser.xmlDocuments[0]);
+  EXPECT_EQ(Root::TaskDataChosen, parser.mainXml->root.chosen);
+  EXPECT_EQ("TSK1", parser.mainXml->reader.getTaskContainer().at(0)->GetId());
+  EXPECT_EQ(Root::ExternalFileContentChosen, parser.xmlDocuments[1]->root.chosen);
+  ASSERT_EQ(1u, parser.errors.size());
+  EXPECT_EQ("CTR00001", parser.errors[0].fileName);
+  EXPECT_EQ(&parser.errors, &parser.getErrors());
+  EXPECT_EQ((std::map<std::string, std::string>{{"CTR1", "uuid"}}), parser.uuidLinks);
+  EXPECT_EQ(&parser.uuidLinks, &parser.getUuidLinks());
+}
+
+TEST(Members, AreEmptyWithoutAMainDocument) {
+  Set set(Files{});
+  EXPECT_EQ(nullptr, set->mainXml);
+  EXPECT_TRUE(set->xmlDocuments.empty() && set->uuidLinks.empty());
+  EXPECT_EQ(1u, set->errors.size());
 }
 
 // --- File handles ----------------------------------------------------------------------------------------
