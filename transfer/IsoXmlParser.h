@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
@@ -42,7 +43,9 @@ struct IsoDocument {
 /// A transfer set of ISO 11783-10 task data: the main document (root "ISO11783_TaskData"), the link list and
 /// the external files that it names.
 /// Errors: none is thrown. Each document that failed is in `getErrors`, and the others stand without it; but
-/// when the main document fails, nothing else is opened.
+/// when the main document fails, nothing else is opened. FIFOs, sockets and devices are not opened. One file
+/// is opened at most 16 times for a set, counted as main document, link list and external file together and
+/// under whatever names; each further reference to it fails with code 1. Different files are not limited.
 /// Ownership: the parser owns all documents. Pointers that it hands out die with it, save the metadata's.
 /// Threads: one at a time. Each held document keeps its file open until destruction.
 class ISOXML_API IsoXmlParser {
@@ -131,9 +134,12 @@ class ISOXML_API IsoXmlParser {
   std::map<std::string, std::string> uuidLinks;    ///< The link list's UUIDs by object identifier.
 
  private:
-  std::shared_ptr<Xml> p_open(std::string const& name, lmx::elmx_error* error, IsoDocument* document);
+  std::shared_ptr<Xml> p_open(std::string const& name, std::string const& path, lmx::elmx_error* error,
+                              IsoDocument* document);
   std::shared_ptr<Xml> p_openOfSet(std::string const& name, IsoDocument::Role role, lmx::elmx_error* error);
   std::string p_path(std::string const& name) const;
+  bool p_takeOpening(std::string const& path);
 
   std::vector<IsoDocument> documents;
+  std::map<std::pair<std::uintmax_t, std::uintmax_t>, int> openings;  // of a file, by device and number there
 };

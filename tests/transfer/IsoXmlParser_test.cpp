@@ -386,6 +386,68 @@ TEST(ExternalFiles, AreReadInOrderAndAsOftenAsTheyAreNamed) {
   EXPECT_EQ(57, found[1].root->chosen);
 }
 
+std::string repeated(std::string const& text, std::size_t count) {
+  std::string all;
+  for (std::size_t i = 0; i != count; ++i) all += text;
+  return all;
+}
+
+TEST(ExternalFiles, AreReadSixteenTimesAndNoMore) {
+  const std::string external = ", external TSK00001 ";
+  Set good({{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), 20))},
+            {"TSK00001.XML", "<XFC><TSK A='TSK1' G='1'/></XFC>"}});
+  EXPECT_EQ("main TASKDATA 0" + repeated(external + "0", 16) + repeated(external + "1", 4), documents(*good));
+  EXPECT_EQ("1 TSK00001, 1 TSK00001, 1 TSK00001, 1 TSK00001", errors(*good));
+  for (std::size_t i = 0; i != 4; ++i) expect_like_a_missing_file(*good, 17 + i, i, "TSK00001");
+  EXPECT_EQ(16u, good->getTasks().size());
+
+  Set bad({{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), 18))}, {"TSK00001.XML", "<XFC>"}});
+  EXPECT_EQ("main TASKDATA 0" + repeated(external + "34", 16) + repeated(external + "1", 2), documents(*bad));
+}
+
+TEST(ExternalFiles, AreOneFileByWhateverNames) {
+  TempDir directory;
+  std::string names;
+  for (int i = 0; i != 20; ++i) {
+    const std::string name = "TSK000" + std::to_string(10 + i);
+    names += reference(name);
+    const std::string path = directory.path(name + ".XML");
+    if (i % 2 == 0) {
+      ASSERT_EQ(0, symlink("TASKDATA.XML", path.c_str()));
+    } else {
+      std::filesystem::create_hard_link(directory.path("LINKLIST.XML"), path);
+    }
+    if (i == 0) directory.write("LINKLIST.XML", link_list(""));
+  }
+  directory.write("TASKDATA.XML", task_data(attached("LINKLIST.XML") + repeated(names, 2)));
+  // Each file has been opened once before the first reference, which names it ten times, twice.
+  const IsoXmlParser parser(directory.path(), "TASKDATA");
+  std::string expected;
+  for (int i = 0; i != 10; ++i) expected += (i == 0 ? "1 TSK000" : ", 1 TSK000") + std::to_string(20 + i);
+  EXPECT_EQ(expected, errors(parser));
+  EXPECT_EQ(2u + 40u, parser.getDocuments().size());
+}
+
+TEST(ExternalFiles, ThatDifferAreNotLimited) {
+  Files files;
+  std::string names;
+  for (int i = 0; i != 40; ++i) {
+    const std::string name = "TSK000" + std::to_string(10 + i);
+    names += reference(name);
+    files[name + ".XML"] = "<XFC/>";
+  }
+  files["TASKDATA.XML"] = task_data(repeated(names, 16));
+  Set set(files);
+  EXPECT_EQ("", errors(*set));
+  EXPECT_EQ(1u + 40u * 16u, set->getDocuments().size());
+}
+
+TEST(ExternalFiles, ThatAHostOpensItselfAreNotCounted) {
+  Set set({{"TASKDATA.XML", task_data(reference("TSK00001"))}, {"TSK00001.XML", "<XFC/>"}});
+  for (int i = 0; i != 40; ++i) EXPECT_NE(nullptr, set->openFile("TSK00001", nullptr));
+  EXPECT_EQ("", errors(*set));
+}
+
 TEST(ExternalFiles, NameNoFurtherFiles) {
   const std::string names = reference("CTR00001") + reference("CTR00002") + attached("LINKLIST.XML") +
                             "<P917_Metadata Version='external'/>";
