@@ -68,6 +68,7 @@ void ask_for_everything(IsoXmlParser& set) {
     lmx::ISORxMap map;
     set.getISORxMap(info, map);
   }
+  fuzz::require(set.getISORxMaps().size() <= infos.size(), "no task has more than one map");
   for (Task* task : tasks) lmx::xmlReader::getTZNList(task);
   set.getFarms();
   set.getGrowers();

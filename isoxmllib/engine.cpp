@@ -5,6 +5,7 @@
 namespace binding {
 
 void begin_document(lmx::xmlReader& reader) {
+  reader.forgetElements();  // those of a document that was read before may be gone
   reader.m_code_file = code_file;
   reader.set_ns_map(ns_map_reader);
   reader.m_skip_unknown = true;

@@ -18,20 +18,14 @@ namespace {
 using Maps = std::vector<lmx::ISORxMap>;
 
 // The map of each task, or of the one that is asked for. Where tasks share an identifier the last one stands
-// for it, as `IsoXmlParser::getISORxMap` has it; asking that for each task would take quadratic time.
+// for it.
 Maps maps_of(IsoXmlParser const& set, std::string const& task_id) {
+  if (task_id.empty()) return set.getISORxMaps();
   const std::vector<lmx::TaskInfo> infos = set.getTaskInfoList();
-  const std::vector<Task*> tasks = set.getTasks();  // in the same order
-  std::map<std::string, std::size_t> last_of_id;
-  for (std::size_t i = 0; i != infos.size(); ++i) last_of_id[infos[i].id] = i;
+  const auto last = std::find_if(infos.rbegin(), infos.rend(),
+                                 [&](lmx::TaskInfo const& info) { return info.id == task_id; });
   Maps maps;
-  for (std::size_t i = 0; i != infos.size(); ++i) {
-    lmx::TaskInfo const& info = infos[i];
-    if (last_of_id[info.id] != i || (!task_id.empty() && info.id != task_id)) continue;
-    Task* task = tasks[i];
-    maps.push_back({info.id, info.designator, lmx::xmlReader::getTZNList(task), info.defaultTreatmentZoneCode,
-                    info.positionLostTreatmentZoneCode, info.outOfFieldTreatmentZoneCode});
-  }
+  if (last != infos.rend()) set.getISORxMap(*last, maps.emplace_back());
   return maps;
 }
 

@@ -95,11 +95,13 @@ IsoGuidanceLine guidance_line(GuidancePattern const& pattern, LineString const& 
   const bool is_pivot = record.type == elmx_enum_4;
   if (is_a_plus && pattern.IssetHeading()) record.heading = pattern.GetHeading().get_as_float();
   if (is_pivot) record.radius = if_set(pattern.IssetRadius(), pattern.GetRadius());
+  // Kept: hosts take a pivot's first point for its centre. Of several centres the last one comes first.
+  std::vector<Location> centres;
   each_point(line, [&](Point const& point) {
-    // Kept: hosts take a pivot's first point for its centre. Of several centres the last one comes first.
     const bool is_centre = is_pivot && point.GetenumType() == elmx_enum_8;
-    record.points.insert(is_centre ? record.points.begin() : record.points.end(), location(point));
+    (is_centre ? centres : record.points).push_back(location(point));
   });
+  record.points.insert(record.points.begin(), centres.rbegin(), centres.rend());
   record.metaData = if_set(pattern.IssetP007GuidanceMetaData(), pattern.GetP007GuidanceMetaData());
   return record;
 }

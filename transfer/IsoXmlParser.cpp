@@ -1,12 +1,15 @@
 #include "transfer/IsoXmlParser.h"
 
+#include <optional>
 #include <utility>
 
-#include "isoxmllib/isoxmllib.h"
+#include "transfer/reader/document_file.h"
 
 namespace {
 
 constexpr unsigned char link_list_type = 1;  // of an attached file: the link list document
+constexpr int most_openings = 16;            // of one file, for one set
+constexpr char no_path[] = "";               // leads to no file
 
 std::string to_upper(std::string text) {
   for (char& c : text) {
@@ -39,10 +42,22 @@ std::string IsoXmlParser::p_path(std::string const& name) const {
   return path;
 }
 
+// Counts an opening of the file, or false when it has had all of its own: a small main document could take
+// any amount of memory by naming one file over and over. Each opening for the set counts, as main document,
+// as link list or as external file, by whatever name and whether it can be read or not; a host's own do not.
+bool IsoXmlParser::p_takeOpening(std::string const& path) {
+  const std::optional<lmx::detail::file_identity> file = lmx::detail::identity_of(path.c_str());
+  if (!file) return true;  // it will fail by itself
+  int& count = openings[*file];
+  if (count == most_openings) return false;
+  ++count;
+  return true;
+}
+
 // Fills all of `document` but its role, and its root only for a document that was read.
-std::shared_ptr<IsoXmlParser::Xml> IsoXmlParser::p_open(std::string const& name, lmx::elmx_error* error,
-                                                        IsoDocument* document) {
-  auto xml = std::make_shared<Xml>(p_path(name).c_str());
+std::shared_ptr<IsoXmlParser::Xml> IsoXmlParser::p_open(std::string const& name, std::string const& path,
+                                                        lmx::elmx_error* error, IsoDocument* document) {
+  auto xml = std::make_shared<Xml>(path.c_str());
   const lmx::elmx_error code =
       xml->reader.isOpen() ? xml->root.unmarshal(xml->reader)
                            : xml->reader.capture_error(lmx::ELMX_NO_FILE, name, "IsoXmlParser", __LINE__);
@@ -65,7 +80,8 @@ std::shared_ptr<IsoXmlParser::Xml> IsoXmlParser::p_openOfSet(std::string const& 
                                                              lmx::elmx_error* error) {
   IsoDocument document{};
   document.role = role;
-  auto xml = p_open(name, error, &document);
+  const std::string path = p_path(name);
+  auto xml = p_open(name, p_takeOpening(path) ? path : no_path, error, &document);
   if (role == IsoDocument::Role::LinkList)
     document.root = nullptr;  // released as soon as its pairs are taken
   documents.push_back(std::move(document));
@@ -74,12 +90,13 @@ std::shared_ptr<IsoXmlParser::Xml> IsoXmlParser::p_openOfSet(std::string const& 
 
 std::shared_ptr<IsoXmlParser::Xml> IsoXmlParser::openFile(std::string const& name, lmx::elmx_error* error) {
   IsoDocument not_of_the_set{};
-  return p_open(name, error, &not_of_the_set);
+  return p_open(name, p_path(name), error, &not_of_the_set);
 }
 
 // References inside external files are not followed, so there is no cycle to guard against. A file that is
 // named twice is read twice.
 void IsoXmlParser::createReaders() {
+  openings.clear();
   lmx::elmx_error error = lmx::ELMX_UNDEFINED_ERROR;
   mainXml = p_openOfSet(fileName, IsoDocument::Role::Main, &error);
   if (error != lmx::ELMX_OK) return;

@@ -1,20 +1,22 @@
-// The one class that a host creates: it opens a transfer set whole and answers from memory.
+// The one class that a host creates: it opens a transfer set whole and answers from memory. This include
+// brings all that its answers are made of: the element classes, the flat records and `IsoDDIConstants`.
 #pragma once
 
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxparse/error_codes.h"
-#include "isoxmllib/fwd.h"
-#include "isoxmllib/root.h"
-#include "transfer/ISORxMap.h"
-#include "transfer/IsoField.h"
-#include "transfer/IsoRecords.h"
-#include "transfer/TaskInfo.h"
+#include "isoxmllib/isoxmllib.h"       // IWYU pragma: export
+#include "transfer/ISORxMap.h"         // IWYU pragma: export
+#include "transfer/IsoDDIConstants.h"  // IWYU pragma: export
+#include "transfer/IsoField.h"         // IWYU pragma: export
+#include "transfer/IsoRecords.h"       // IWYU pragma: export
+#include "transfer/TaskInfo.h"         // IWYU pragma: export
 #include "transfer/reader/xmlReader.h"
 
 /// One document that could not be opened or read.
@@ -41,7 +43,9 @@ struct IsoDocument {
 /// A transfer set of ISO 11783-10 task data: the main document (root "ISO11783_TaskData"), the link list and
 /// the external files that it names.
 /// Errors: none is thrown. Each document that failed is in `getErrors`, and the others stand without it; but
-/// when the main document fails, nothing else is opened.
+/// when the main document fails, nothing else is opened. FIFOs, sockets and devices are not opened. One file
+/// is opened at most 16 times for a set, counted as main document, link list and external file together and
+/// under whatever names; each further reference to it fails with code 1. Different files are not limited.
 /// Ownership: the parser owns all documents. Pointers that it hands out die with it, save the metadata's.
 /// Threads: one at a time. Each held document keeps its file open until destruction.
 class ISOXML_API IsoXmlParser {
@@ -107,8 +111,11 @@ class ISOXML_API IsoXmlParser {
   std::vector<lmx::TaskInfo> getTaskInfoList() const;
   /// Fills `map` for the task that has the identifier of `info`: zones from the documents, the last task of
   /// that identifier winning, all else from `info`. Without such a task `taskId` and `treatmentZones` keep
-  /// what they held: hand in a fresh map to tell.
+  /// what they held: hand in a fresh map to tell. Each call looks at the tasks' identifiers as they are then.
   void getISORxMap(lmx::TaskInfo info, lmx::ISORxMap& map) const;
+  /// The maps of all tasks, in their order: what `getISORxMap` gives for each, in one pass over them. Of
+  /// tasks that share an identifier the last one alone has a map, and one without an identifier has none.
+  std::vector<lmx::ISORxMap> getISORxMaps() const;
 
   /// Opens and reads one document of the directory. Empty on failure, which adds a record to `getErrors`.
   /// @param error  receives the code; may be null
@@ -119,16 +126,20 @@ class ISOXML_API IsoXmlParser {
   /// of an identifier stays.
   void processLinks(lmx::xmlReader& reader);
 
+  std::string directory;                           ///< The set's, as given to the constructor.
+  std::string fileName;                            ///< The main document's name, as given to the constructor.
+  std::shared_ptr<Xml> mainXml;                    ///< The main document; empty when it failed.
+  std::vector<std::shared_ptr<Xml>> xmlDocuments;  ///< The main document, then each external file read.
+  std::vector<IsoXmlError> errors;                 ///< One for each document that failed, in that order.
+  std::map<std::string, std::string> uuidLinks;    ///< The link list's UUIDs by object identifier.
+
  private:
-  std::shared_ptr<Xml> p_open(std::string const& name, lmx::elmx_error* error, IsoDocument* document);
+  std::shared_ptr<Xml> p_open(std::string const& name, std::string const& path, lmx::elmx_error* error,
+                              IsoDocument* document);
   std::shared_ptr<Xml> p_openOfSet(std::string const& name, IsoDocument::Role role, lmx::elmx_error* error);
   std::string p_path(std::string const& name) const;
+  bool p_takeOpening(std::string const& path);
 
-  std::string directory;
-  std::string fileName;
-  std::shared_ptr<Xml> mainXml;
-  std::vector<std::shared_ptr<Xml>> xmlDocuments;
-  std::vector<IsoXmlError> errors;
-  std::map<std::string, std::string> uuidLinks;
   std::vector<IsoDocument> documents;
+  std::map<std::pair<std::uintmax_t, std::uintmax_t>, int> openings;  // of a file, by device and number there
 };

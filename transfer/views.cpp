@@ -1,7 +1,9 @@
 // The views of a transfer set. Each walks all documents, the main one first, then the external files in the
 // order of their references; nothing is filtered, sorted or cached.
+#include <cstddef>
 #include <utility>
 
+#include "GenLibrarySupportFiles/lmxinternals/c_repository.h"
 #include "isoxmllib/field_geometry.h"
 #include "isoxmllib/task.h"
 #include "isoxmllib/task_data.h"
@@ -20,6 +22,27 @@ std::vector<T> from_all(Documents const& documents, std::vector<T> (lmx::xmlRead
     all.insert(all.end(), part.begin(), part.end());
   }
   return all;
+}
+
+// Kept: hosts rely on the last task of an identifier winning.
+Task* last_task(Documents const& documents, std::string const& id) {
+  for (auto xml = documents.rbegin(); xml != documents.rend(); ++xml) {
+    if (Task* const task = (*xml)->reader.findLastTask(id)) return task;
+  }
+  return nullptr;
+}
+
+// What of a map the task's element gives, and what its record.
+void add_zones(Task* task, lmx::ISORxMap& map) {
+  map.taskId = task->GetId();
+  map.treatmentZones = lmx::xmlReader::getTZNList(task);
+}
+
+void add_codes(lmx::TaskInfo const& info, lmx::ISORxMap& map) {
+  map.designator = info.designator;
+  map.defaultTreatmentZoneCode = info.defaultTreatmentZoneCode;
+  map.positionLostTreatmentZoneCode = info.positionLostTreatmentZoneCode;
+  map.outOfFieldTreatmentZoneCode = info.outOfFieldTreatmentZoneCode;
 }
 
 }  // namespace
@@ -107,15 +130,24 @@ std::vector<lmx::TaskInfo> IsoXmlParser::getTaskInfoList() const {
 
 void IsoXmlParser::getISORxMap(lmx::TaskInfo info, lmx::ISORxMap& map) const {
   if (!info.id.empty()) {
-    for (Task* task : getTasks()) {
-      if (task->GetId() != info.id) continue;
-      map.taskId = task->GetId();
-      map.treatmentZones = lmx::xmlReader::getTZNList(task);  // kept: hosts rely on the last task winning
-    }
+    if (Task* task = last_task(xmlDocuments, info.id)) add_zones(task, map);
   }
   // Kept: without such a task its zones stay as the caller left them, and hosts rely on that.
-  map.designator = std::move(info.designator);
-  map.defaultTreatmentZoneCode = info.defaultTreatmentZoneCode;
-  map.positionLostTreatmentZoneCode = info.positionLostTreatmentZoneCode;
-  map.outOfFieldTreatmentZoneCode = info.outOfFieldTreatmentZoneCode;
+  add_codes(info, map);
+}
+
+std::vector<lmx::ISORxMap> IsoXmlParser::getISORxMaps() const {
+  const std::vector<lmx::TaskInfo> infos = getTaskInfoList();
+  const std::vector<Task*> tasks = getTasks();  // in the same order
+  lmx::c_repository<std::size_t> last_of_id;
+  for (std::size_t i = 0; i != infos.size(); ++i) last_of_id.set(infos[i].id, i);
+  std::vector<lmx::ISORxMap> maps;
+  maps.reserve(last_of_id.size());
+  for (std::size_t i = 0; i != infos.size(); ++i) {
+    if (infos[i].id.empty() || *last_of_id.find(infos[i].id) != i) continue;
+    lmx::ISORxMap& map = maps.emplace_back();
+    add_zones(tasks[i], map);
+    add_codes(infos[i], map);
+  }
+  return maps;
 }

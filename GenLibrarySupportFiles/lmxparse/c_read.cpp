@@ -8,7 +8,10 @@ bool c_read::is_open() const { return true; }
 
 char const* c_read::source_name() const { return nullptr; }
 
-c_read_file::c_read_file(char const* path) : m_path(path), mp_file(std::fopen(path, "rb")) {
+c_read_file::c_read_file(char const* path)
+    : c_read_file(path, [](char const* any_path) { return std::fopen(any_path, "rb"); }) {}
+
+c_read_file::c_read_file(char const* path, opener open) : m_path(path), mp_file(open(path)) {
   // Our own buffer is the only one: fread then fills it straight from the file.
   if (mp_file != nullptr) std::setvbuf(mp_file, nullptr, _IONBF, 0);
 }

@@ -41,8 +41,15 @@ class ISOXML_API c_read {
 /// Reads a file through the C library, a buffer at a time.
 class ISOXML_API c_read_file : public c_read {
  public:
-  /// Opens `path` for binary reading. A failed open throws nothing: `is_open` is then false.
+  /// Opens a path; null when that fails.
+  using opener = std::FILE* (*)(char const* path);
+
+  /// Opens `path` for binary reading. A failed open throws nothing: `is_open` is then false. Whatever can be
+  /// opened is: a FIFO or a device too, and whoever names one waits for it. The documents of a transfer set
+  /// are opened by `xmlReader`, which takes none of those.
   explicit c_read_file(char const* path);
+  /// Opens `path` by `open`, and closes at the end what that gave.
+  c_read_file(char const* path, opener open);
   ~c_read_file() override;
 
   bool is_open() const override;

@@ -534,6 +534,68 @@ TEST(HostileSet, WithMoreFilesThanMayBeOpenKeepsThoseThatCouldBeOpened) {
   EXPECT_EQ(open_before, open_files());
 }
 
+std::string numbered_tasks(std::size_t count) {
+  return numbered("<TSK A='TSK#' G='1'><TZN A='1'/></TSK>", count);
+}
+
+TEST(HostileSet, WithAMillionTasksGivesAllTheirMaps) {
+  const TransferSet set(numbered_tasks(million));
+  ASSERT_EQ(0u, set->getErrors().size());
+  const std::vector<lmx::ISORxMap> maps = set->getISORxMaps();
+  ASSERT_EQ(million, maps.size());
+  EXPECT_EQ("TSK0", maps.front().taskId);
+  EXPECT_EQ("TSK999999", maps.back().taskId);
+  EXPECT_EQ(1u, maps.back().treatmentZones.size());
+}
+
+// No list of the tasks is made for it.
+TEST(HostileSet, WithManyTasksGivesOneMapWithoutMemoryForEachTask) {
+  constexpr std::size_t tasks = 100000;
+  const TransferSet set(numbered_tasks(tasks));
+  const std::size_t before = counted_heap::restart();
+  for (char const* id : {"TSK0", "TSK99999", "TSK100000"}) {
+    lmx::TaskInfo info;
+    info.id = id;
+    lmx::ISORxMap map;
+    set->getISORxMap(info, map);
+    EXPECT_EQ(id == std::string("TSK100000") ? 0u : 1u, map.treatmentZones.size()) << id;
+  }
+  EXPECT_LT(counted_heap::peak - before, tasks);
+}
+
+TEST(HostileSet, ThatNamesOneFileTenThousandTimesReadsItSixteenTimes) {
+  const std::string file = external_file(numbered_tasks(10000));
+  constexpr std::size_t references = 10000, openings = 16;
+  const std::size_t before = counted_heap::restart();
+  const TransferSet set(SetFiles{{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), references))},
+                                 {"TSK00001.XML", file}});
+  const std::size_t taken = counted_heap::peak - before;
+  EXPECT_EQ(openings * 10000, set->getTasks().size());
+  EXPECT_EQ(references - openings, set->getErrors().size());
+  EXPECT_EQ(1 + references, set->getDocuments().size());
+  EXPECT_TRUE(taken <= 64 * mib + openings * 8 * file.size() || !heap_is_plain) << taken;
+}
+
+// A field whose guidance is one pivot line of these points.
+std::string pivot(std::string const& points) {
+  return "<PFD A='PFD1' C='f' D='1'><GGP A='GGP1'><GPN A='GPN1' C='4'><LSG A='5'>" + points +
+         "</LSG></GPN></GGP></PFD>";
+}
+
+std::string centres(std::size_t count) { return numbered("<PNT A='8' C='0.#' D='1'/>", count); }
+
+TEST(HostileSet, WithAPivotOfAMillionCentresGivesThemLastFirst) {
+  const TransferSet set(pivot("<PNT A='2' C='7' D='7'/>" + centres(million)));
+  ASSERT_EQ(0u, set->getErrors().size());
+  const std::vector<IsoField> fields = set->getFields();
+  std::vector<Location> const& points = fields.at(0).guidanceGroups.at(0).guidanceLines.at(0).points;
+  ASSERT_EQ(million + 1, points.size());
+  EXPECT_EQ(0.999999, points[0].north);
+  EXPECT_EQ(0.999998, points[1].north);
+  EXPECT_EQ(0.0, points[million - 1].north);
+  EXPECT_EQ(7.0, points[million].north);
+}
+
 // ---- NUL bytes ----
 
 // A good document in pieces: what comes of a NUL in front of each of a piece's characters.

@@ -2,8 +2,13 @@
 // failed, by code and by line.
 #include "transfer/IsoXmlParser.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <cstddef>
 #include <filesystem>
@@ -27,6 +32,13 @@ static_assert(std::is_same_v<void (IsoXmlParser::*)(), decltype(&IsoXmlParser::c
 static_assert(std::is_same_v<void (IsoXmlParser::*)(lmx::xmlReader&), decltype(&IsoXmlParser::processLinks)>);
 static_assert(std::is_const_v<
               std::remove_reference_t<decltype(std::declval<IsoXmlParser const&>().getErrors().front())>>);
+static_assert(std::is_same_v<std::string, decltype(IsoXmlParser::directory)>);
+static_assert(std::is_same_v<std::string, decltype(IsoXmlParser::fileName)>);
+static_assert(std::is_same_v<std::shared_ptr<IsoXmlParser::Xml>, decltype(IsoXmlParser::mainXml)>);
+static_assert(
+    std::is_same_v<std::vector<std::shared_ptr<IsoXmlParser::Xml>>, decltype(IsoXmlParser::xmlDocuments)>);
+static_assert(std::is_same_v<std::vector<IsoXmlError>, decltype(IsoXmlParser::errors)>);
+static_assert(std::is_same_v<std::map<std::string, std::string>, decltype(IsoXmlParser::uuidLinks)>);
 static_assert(!std::is_same_v<::Point, lmx::Point> && !std::is_same_v<::Polygon, lmx::Polygon> &&
               !std::is_same_v<::TreatmentZone, lmx::TreatmentZone> &&
               !std::is_same_v<::ProcessDataVariable, lmx::ProcessDataVariable>);
@@ -280,6 +292,84 @@ TEST(Failures, OfADirectoryLookLikeAnEmptyFile) {
   EXPECT_EQ(1, parser.getErrors()[0].line);
 }
 
+// What a document that is not there gets, in both lists.
+void expect_like_a_missing_file(IsoXmlParser const& parser, std::size_t document_index,
+                                std::size_t error_index, std::string const& name) {
+  TempDir empty;
+  const IsoXmlParser missing(empty.path(), name);
+  const IsoDocument expected = missing.getDocuments().at(0);
+  const IsoDocument found = parser.getDocuments().at(document_index);
+  EXPECT_EQ(expected.name, found.name);
+  EXPECT_EQ(expected.error, found.error);
+  EXPECT_EQ(expected.line, found.line);
+  EXPECT_EQ(expected.item, found.item);
+  EXPECT_EQ(expected.message, found.message);
+  EXPECT_EQ(nullptr, found.root);
+  const IsoXmlError expected_error = missing.getErrors().at(0);
+  const IsoXmlError error = parser.getErrors().at(error_index);
+  EXPECT_EQ(lmx::ELMX_NO_FILE, error.error);
+  EXPECT_EQ(expected_error.line, error.line);
+  EXPECT_EQ(expected_error.fileName, error.fileName);
+  EXPECT_EQ(expected_error.message, error.message);
+}
+
+void make_socket(std::string const& path) {
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(path.size(), sizeof address.sun_path);
+  path.copy(address.sun_path, path.size());
+  const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
+  EXPECT_EQ(0, bind(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address));
+  close(descriptor);
+}
+
+// Nobody feeds the FIFO: whoever waits for it waits for ever.
+TEST(Failures, OfFifosSocketsAndDevicesAreOfCode1AtOnce) {
+  const struct {
+    char const* caption;
+    void (*make)(std::string const& path);
+  } rows[] = {
+      {"a FIFO", [](std::string const& path) { ASSERT_EQ(0, mkfifo(path.c_str(), 0600)); }},
+      {"a socket", make_socket},
+      {"a device", [](std::string const& path) { ASSERT_EQ(0, symlink("/dev/zero", path.c_str())); }},
+      {"an empty one", [](std::string const& path) { ASSERT_EQ(0, symlink("/dev/null", path.c_str())); }},
+  };
+  for (auto const& row : rows) {
+    SCOPED_TRACE(row.caption);
+    TempDir directory;
+    directory.write("TASKDATA.XML", task_data(attached("LINKLIST.XML") + reference("CTR00001") +
+                                              reference("CTR00002") + reference("CTR00001")));
+    directory.write("CTR00002.XML", "<XFC/>");
+    row.make(directory.path("LINKLIST.XML"));
+    row.make(directory.path("CTR00001.XML"));
+    row.make(directory.path("MAINFILE.XML"));
+    const IsoXmlParser parser(directory.path(), "TASKDATA");
+    EXPECT_EQ(
+        "main TASKDATA 0, links LINKLIST.XML 1, external CTR00001 1, external CTR00002 0, "
+        "external CTR00001 1",
+        documents(parser));
+    expect_like_a_missing_file(parser, 1, 0, "LINKLIST.XML");
+    expect_like_a_missing_file(parser, 2, 1, "CTR00001");
+    const IsoXmlParser of_none(directory.path(), "MAINFILE");
+    EXPECT_EQ("main MAINFILE 1", documents(of_none));
+    expect_like_a_missing_file(of_none, 0, 0, "MAINFILE");
+  }
+}
+
+TEST(Failures, OfAFifoTakeNothingFromIt) {
+  TempDir directory;
+  const std::string path = directory.path("TASKDATA.XML");
+  ASSERT_EQ(0, mkfifo(path.c_str(), 0600));
+  const int pipe = open(path.c_str(), O_RDWR | O_NONBLOCK);  // both ends, so that it can be filled
+  const std::string bytes = task_data("");
+  ASSERT_EQ(static_cast<ssize_t>(bytes.size()), write(pipe, bytes.data(), bytes.size()));
+  EXPECT_EQ("1 TASKDATA", errors(IsoXmlParser(directory.path(), "TASKDATA")));
+  std::string left(bytes.size() + 1, ' ');
+  EXPECT_EQ(static_cast<ssize_t>(bytes.size()), read(pipe, left.data(), left.size()));
+  EXPECT_EQ(0, left.compare(0, bytes.size(), bytes));
+  close(pipe);
+}
+
 // --- External files --------------------------------------------------------------------------------------
 
 TEST(ExternalFiles, AreReadInOrderAndAsOftenAsTheyAreNamed) {
@@ -294,6 +384,68 @@ TEST(ExternalFiles, AreReadInOrderAndAsOftenAsTheyAreNamed) {
   EXPECT_NE(found[1].root, found[3].root);
   EXPECT_EQ(1, found[0].root->chosen);
   EXPECT_EQ(57, found[1].root->chosen);
+}
+
+std::string repeated(std::string const& text, std::size_t count) {
+  std::string all;
+  for (std::size_t i = 0; i != count; ++i) all += text;
+  return all;
+}
+
+TEST(ExternalFiles, AreReadSixteenTimesAndNoMore) {
+  const std::string external = ", external TSK00001 ";
+  Set good({{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), 20))},
+            {"TSK00001.XML", "<XFC><TSK A='TSK1' G='1'/></XFC>"}});
+  EXPECT_EQ("main TASKDATA 0" + repeated(external + "0", 16) + repeated(external + "1", 4), documents(*good));
+  EXPECT_EQ("1 TSK00001, 1 TSK00001, 1 TSK00001, 1 TSK00001", errors(*good));
+  for (std::size_t i = 0; i != 4; ++i) expect_like_a_missing_file(*good, 17 + i, i, "TSK00001");
+  EXPECT_EQ(16u, good->getTasks().size());
+
+  Set bad({{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), 18))}, {"TSK00001.XML", "<XFC>"}});
+  EXPECT_EQ("main TASKDATA 0" + repeated(external + "34", 16) + repeated(external + "1", 2), documents(*bad));
+}
+
+TEST(ExternalFiles, AreOneFileByWhateverNames) {
+  TempDir directory;
+  std::string names;
+  for (int i = 0; i != 20; ++i) {
+    const std::string name = "TSK000" + std::to_string(10 + i);
+    names += reference(name);
+    const std::string path = directory.path(name + ".XML");
+    if (i % 2 == 0) {
+      ASSERT_EQ(0, symlink("TASKDATA.XML", path.c_str()));
+    } else {
+      std::filesystem::create_hard_link(directory.path("LINKLIST.XML"), path);
+    }
+    if (i == 0) directory.write("LINKLIST.XML", link_list(""));
+  }
+  directory.write("TASKDATA.XML", task_data(attached("LINKLIST.XML") + repeated(names, 2)));
+  // Each file has been opened once before the first reference, which names it ten times, twice.
+  const IsoXmlParser parser(directory.path(), "TASKDATA");
+  std::string expected;
+  for (int i = 0; i != 10; ++i) expected += (i == 0 ? "1 TSK000" : ", 1 TSK000") + std::to_string(20 + i);
+  EXPECT_EQ(expected, errors(parser));
+  EXPECT_EQ(2u + 40u, parser.getDocuments().size());
+}
+
+TEST(ExternalFiles, ThatDifferAreNotLimited) {
+  Files files;
+  std::string names;
+  for (int i = 0; i != 40; ++i) {
+    const std::string name = "TSK000" + std::to_string(10 + i);
+    names += reference(name);
+    files[name + ".XML"] = "<XFC/>";
+  }
+  files["TASKDATA.XML"] = task_data(repeated(names, 16));
+  Set set(files);
+  EXPECT_EQ("", errors(*set));
+  EXPECT_EQ(1u + 40u * 16u, set->getDocuments().size());
+}
+
+TEST(ExternalFiles, ThatAHostOpensItselfAreNotCounted) {
+  Set set({{"TASKDATA.XML", task_data(reference("TSK00001"))}, {"TSK00001.XML", "<XFC/>"}});
+  for (int i = 0; i != 40; ++i) EXPECT_NE(nullptr, set->openFile("TSK00001", nullptr));
+  EXPECT_EQ("", errors(*set));
 }
 
 TEST(ExternalFiles, NameNoFurtherFiles) {
@@ -427,6 +579,43 @@ TEST(OpenFile, TellsTheCodeAndRecordsAFailure) {
   EXPECT_EQ(nullptr, set->openFile("NONE.xml", nullptr));
   EXPECT_NE(nullptr, set->openFile("MORE.XML", nullptr));
   EXPECT_EQ("25 BAD, 1 NONE.xml", errors(*set));
+}
+
+// --- Members ---------------------------------------------------------------------------------------------
+
+template <class Before, class Behind>
+bool is_before(Before const& before, Behind const& behind) {
+  return static_cast<void const*>(&before) < static_cast<void const*>(&behind);
+}
+
+TEST(Members, HoldWhatWasGivenAndReadInTheirOrder) {
+  Set set({{"TASKDATA.XML", task_data(attached("LINKLIST.XML") + reference("CTR00001") +
+                                      reference("CTR00002") + "<TSK A='TSK1' G='1'/>")},
+           {"LINKLIST.XML", link_list(group("1", link("CTR1", "uuid")))},
+           {"CTR00002.XML", "<XFC/>"}});
+  IsoXmlParser& parser = *set;
+  EXPECT_TRUE(is_before(parser.directory, parser.fileName) && is_before(parser.fileName, parser.mainXml) &&
+              is_before(parser.mainXml, parser.xmlDocuments) &&
+              is_before(parser.xmlDocuments, parser.errors) && is_before(parser.errors, parser.uuidLinks));
+  EXPECT_TRUE(std::filesystem::exists(parser.directory + "/CTR00002.XML"));
+  EXPECT_EQ("TASKDATA", parser.fileName);
+  ASSERT_EQ(2u, parser.xmlDocuments.size());
+  EXPECT_EQ(parser.mainXml, parser.xmlDocuments[0]);
+  EXPECT_EQ(Root::TaskDataChosen, parser.mainXml->root.chosen);
+  EXPECT_EQ("TSK1", parser.mainXml->reader.getTaskContainer().at(0)->GetId());
+  EXPECT_EQ(Root::ExternalFileContentChosen, parser.xmlDocuments[1]->root.chosen);
+  ASSERT_EQ(1u, parser.errors.size());
+  EXPECT_EQ("CTR00001", parser.errors[0].fileName);
+  EXPECT_EQ(&parser.errors, &parser.getErrors());
+  EXPECT_EQ((std::map<std::string, std::string>{{"CTR1", "uuid"}}), parser.uuidLinks);
+  EXPECT_EQ(&parser.uuidLinks, &parser.getUuidLinks());
+}
+
+TEST(Members, AreEmptyWithoutAMainDocument) {
+  Set set(Files{});
+  EXPECT_EQ(nullptr, set->mainXml);
+  EXPECT_TRUE(set->xmlDocuments.empty() && set->uuidLinks.empty());
+  EXPECT_EQ(1u, set->errors.size());
 }
 
 // --- File handles ----------------------------------------------------------------------------------------

@@ -168,6 +168,78 @@ TEST(RxMap, TakesTheLastOfSeveralTasksWithTheIdentifier) {
   EXPECT_EQ("3:\n4:\n", text(map.treatmentZones));
 }
 
+TEST(RxMap, AnswersFromTheIdentifiersAsTheyAreAtEachCall) {
+  const TransferSet set(SetFiles{
+      {"TASKDATA.XML",
+       task_data(task(zone("", " A='1'")) + task(zone("", " A='2'"), "TSK2") + reference("TSK00003"))},
+      {"TSK00003.XML", external_file(task(zone("", " A='3'"), "TSK3") + task(zone("", " A='4'"), "TSK4"))}});
+  const std::vector<Task*> tasks = set->getTasks();
+  const auto zones_of = [&](char const* id) {
+    lmx::ISORxMap map = stale_map();
+    set->getISORxMap(info(id), map);
+    return text(map.treatmentZones);
+  };
+  EXPECT_EQ("2:\n", zones_of("TSK2"));
+  tasks[3]->SetId("TSK2");
+  EXPECT_EQ("4:\n", zones_of("TSK2")) << "changed: a later task has it now";
+  EXPECT_EQ("0stale:\n", zones_of("TSK4"));
+  tasks[3]->SetId("");
+  EXPECT_EQ("2:\n", zones_of("TSK2")) << "removed";
+  tasks[0]->SetId("TSK2");
+  EXPECT_EQ("2:\n", zones_of("TSK2")) << "an earlier task has it too";
+  EXPECT_EQ("0stale:\n", zones_of("TSK1"));
+  tasks[1]->SetId("TSK9");
+  EXPECT_EQ("1:\n", zones_of("TSK2"));
+  tasks[2]->SetId("TSK5");
+  EXPECT_EQ("3:\n", zones_of("TSK5")) << "added";
+  EXPECT_EQ("0stale:\n", zones_of("TSK3"));
+}
+
+// --- All maps at once ------------------------------------------------------------------------------------
+
+std::string all_maps(IsoXmlParser const& set) {
+  std::string all;
+  for (lmx::ISORxMap const& map : set.getISORxMaps()) all += text(map);
+  return all;
+}
+
+TEST(RxMaps, AreThoseOfAllTasksTheLastOfEachIdentifier) {
+  const TransferSet set(
+      SetFiles{{"TASKDATA.XML",
+                task_data("<TSK A='TSK1' B='first' G='1' H='7' I='8' J='9'>" + zone("", " A='1'") + "</TSK>" +
+                          "<TSK A='TSK2' B='second' G='1' H='1' I='2' J='254'>" + zone("", " A='2'") +
+                          "</TSK>" + "<TSK A='TSK3' G='1'/>" + reference("TSK00001"))},
+               {"TSK00001.XML", external_file("<TSK A='TSK1' B='last' G='1' H='4' I='5' J='6'>" +
+                                              zone("", " A='3'") + zone("", " A='4'") + "</TSK>")}});
+  EXPECT_EQ("TSK2/second/1/2/254\n2:\nTSK3//0/0/0\nTSK1/last/4/5/6\n3:\n4:\n", all_maps(*set));
+}
+
+TEST(RxMaps, AreNoneWithoutATaskOrAnIdentifier) {
+  EXPECT_EQ("", all_maps(*TransferSet("")));
+  EXPECT_EQ("", all_maps(*TransferSet(SetFiles{})));
+  const TransferSet set(task(zone("")) + task(zone(""), "TSK2") + task(zone(""), "TSK3"));
+  set->getTasks().at(0)->SetId("");
+  set->getTasks().at(2)->SetId("");
+  EXPECT_EQ("TSK2//0/0/0\n5zone:\n", all_maps(*set));
+}
+
+TEST(RxMaps, AreWhatIsAskedForEachTask) {
+  std::string children;
+  for (int i = 0; i != 300; ++i) {  // a hundred identifiers, each of three tasks
+    children += task(zone(polygon("p") + variable(i)), ("TSK" + std::to_string(i * 7 % 100)).c_str());
+  }
+  const TransferSet set(children);
+  const std::vector<lmx::TaskInfo> infos = set->getTaskInfoList();
+  ASSERT_EQ(300u, infos.size());
+  std::string asked;
+  for (std::size_t i = 200; i != 300; ++i) {
+    lmx::ISORxMap map;
+    set->getISORxMap(infos[i], map);
+    asked += text(map);
+  }
+  EXPECT_EQ(asked, all_maps(*set));
+}
+
 TEST(RxMap, IsEqualAtEachCallAndOutlivesTheParser) {
   TransferSet set(task(zone(polygon("p") + variable(1))));
   lmx::ISORxMap first;

@@ -76,6 +76,7 @@ TEST(FailingMemory, EndsEveryViewInOrder) {
           p.getISORxMap(info, map);
         }
       },
+      [](IsoXmlParser& p) { p.getISORxMaps(); },
   };
   std::size_t index = 0;
   for (auto const view : views) {

@@ -1,10 +1,12 @@
 #include "transfer/reader/xmlReader.h"
 
+#include <algorithm>
 #include <mutex>
 #include <utility>
 
 #include "isoxmllib/task.h"
 #include "isoxmllib/task_data.h"
+#include "transfer/reader/document_file.h"
 
 namespace lmx {
 
@@ -23,14 +25,37 @@ P917Metadata* keep(std::unique_ptr<P917Metadata> clone) {
 
 }  // namespace
 
+detail::file_input::file_input(char const* fileName)
+    : fileInput(std::make_unique<c_read_file>(fileName, open_document)), mr_source(*fileInput) {}
+
 xmlReader::xmlReader(char const* fileName) : detail::file_input(fileName), c_xml_reader(mr_source, true) {}
 
 xmlReader::xmlReader(c_read& given) : detail::file_input(given), c_xml_reader(mr_source, true) {}
 
 xmlReader::~xmlReader() = default;
 
+void xmlReader::forgetElements() {
+  growers.clear();
+  farms.clear();
+  fields.clear();
+  externalFileReferences.clear();
+  attachedFiles.clear();
+  tasks.clear();
+  products.clear();
+  valuePresentations.clear();
+  questions.clear();
+  cropTypes.clear();
+  productGroups.clear();
+}
+
 void xmlReader::setP917Metadata(P917Metadata* metadata) {
   p917Metadata = keep(std::unique_ptr<P917Metadata>(metadata->clone()));
+}
+
+Task* xmlReader::findLastTask(std::string const& id) const {
+  const auto last =
+      std::find_if(tasks.rbegin(), tasks.rend(), [&](Task const* task) { return task->GetId() == id; });
+  return last == tasks.rend() ? nullptr : *last;
 }
 
 std::vector<TaskInfo> xmlReader::getTaskInfoList() const {

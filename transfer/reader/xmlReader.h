@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse/c_read.h"
@@ -18,8 +19,7 @@ namespace detail {
 
 /// Holds the file, if the reader has one of its own, so that it is there before the reader and outlives it.
 struct ISOXML_API file_input {
-  explicit file_input(char const* fileName)
-      : fileInput(std::make_unique<c_read_file>(fileName)), mr_source(*fileInput) {}
+  explicit file_input(char const* fileName);
   explicit file_input(c_read& given) : mr_source(given) {}
   std::unique_ptr<c_read_file> fileInput;
   c_read& mr_source;
@@ -28,11 +28,14 @@ struct ISOXML_API file_input {
 }  // namespace detail
 
 /// Reads one document. The lists hold borrowed pointers in the order in which the elements ended: they belong
-/// to the element tree and die with it. After a failed read none of them may be used.
+/// to the element tree and die with it. After a failed read none of them may be used. A reader that reads
+/// another document, or the same once more, begins with empty lists.
 /// Threads: one at a time. The file stays open until destruction.
 class ISOXML_API xmlReader : protected detail::file_input, public c_xml_reader {
  public:
-  /// Opens `fileName`. A failed open throws nothing and reports nothing: ask `isOpen`.
+  /// Opens `fileName`, a file or a directory. A failed open throws nothing and reports nothing: ask `isOpen`.
+  /// A FIFO, a socket or a device is not opened, nor waited for; a `c_read_file` given as the source reads
+  /// those.
   explicit xmlReader(char const* fileName);
   /// Reads from `source`, which is borrowed and must outlive the reader: a document in memory, an archive, a
   /// network.
@@ -42,6 +45,8 @@ class ISOXML_API xmlReader : protected detail::file_input, public c_xml_reader {
   /// True when the source can be read.
   bool isOpen() const { return mr_source.is_open(); }
 
+  /// Empties the lists. Called by element classes where a document begins.
+  void forgetElements();
   // Called by element classes at their end, when nothing went wrong. The pointers are borrowed.
   void addNewGrower(Grower* grower) { growers.push_back(grower); }
   void addNewFarm(Farm* farm) { farms.push_back(farm); }
@@ -74,9 +79,12 @@ class ISOXML_API xmlReader : protected detail::file_input, public c_xml_reader {
   std::vector<P917Question*> getQuestions() const { return questions; }
   std::vector<CropType*> getCropTypeContainer() const { return cropTypes; }
   std::vector<ProductGroup*> getProductGroupContainer() const { return productGroups; }
-  /// The last "P917_Metadata" that was completed, or null. Valid until the process ends.
+  /// The last "P917_Metadata" that was completed, in whichever document, or null. Valid until the process
+  /// ends.
   P917Metadata* getP917Metadata() const { return p917Metadata; }
 
+  /// The last of the tasks that has the identifier, or null. Borrowed from the document.
+  Task* findLastTask(std::string const& id) const;
   /// A record for each task, in the order of `getTaskContainer`.
   std::vector<TaskInfo> getTaskInfoList() const;
   /// A record for each treatment zone of `task`, in document order. Neither the pointer, which must not be

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <string>
 
 #include "GenLibrarySupportFiles/lmxparse/c_error.h"
@@ -90,6 +91,24 @@ TEST(FileSource, GivesADirectoryAsADocumentThatEndsOnLineOne) {
   EXPECT_EQ(lmx::ELMX_UNEXPECTED_EOM, root.unmarshal(reader));
   EXPECT_EQ(lmx::ELMX_UNEXPECTED_EOM, reader.debug_error().m_code);
   EXPECT_EQ(1, reader.debug_error().m_xml_line);
+}
+
+std::FILE* open_nothing(char const*) { return nullptr; }
+std::FILE* open_as_document(char const* path) {
+  return std::fopen((std::string(path) + ".xml").c_str(), "rb");
+}
+
+TEST(FileSource, ReadsWhatItsOpenerOpened) {
+  const TempDir directory;
+  const std::string path = directory.path("bytes");
+  directory.write("bytes.xml", "abc");
+  lmx::c_read_file read(path.c_str(), open_as_document);
+  EXPECT_TRUE(read.is_open());
+  EXPECT_EQ("abc", read_all(read));
+  EXPECT_EQ(path, read.source_name());
+  lmx::c_read_file nothing(path.c_str(), open_nothing);
+  EXPECT_FALSE(nothing.is_open());
+  EXPECT_EQ(-1, nothing.get());
 }
 
 class BareSource : public lmx::c_read {

@@ -2,6 +2,7 @@
 #include "transfer/reader/xmlReader.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cstddef>
 #include <filesystem>
@@ -176,6 +177,53 @@ TEST(Collection, TakesAnElementWithChildrenOnceItHasEnded) {
   EXPECT_EQ("TSK2", tolerated.reader.getTaskContainer()[0]->GetId());
 }
 
+// One of each class that is collected, and metadata.
+const std::string one_of_each =
+    "<CTR A='CTR1' B='x'/><FRM A='FRM1' B='x'/><PFD A='PFD1' C='x' D='1'/>" + reference("CTR00001") +
+    attached("AAAAAAAA.XML") + "<TSK A='TSK1' G='1'/><PDT A='PDT1' B='x'/><VPN A='VPN1' B='0' C='1' D='0'/>" +
+    "<CTP A='CTP1' B='x'/><PGP A='PGP1' B='x'/>";
+
+// A reader that is used again must not hold what the first document's end has freed.
+TEST(Collection, BeginsAnewWithEachDocumentOfAReader) {
+  TempDir directory;
+  const std::string path = directory.write("DOCUMENT.XML", document(one_of_each + metadata("1")));
+  lmx::xmlReader reader(path.c_str());
+  const auto expect_one_of_each = [&] {
+    std::vector<std::size_t> expected(11, 1);
+    expected[8] = 0;  // no question
+    EXPECT_EQ(expected, sizes(reader));
+  };
+  {
+    Root first;
+    ASSERT_EQ(0, first.unmarshal(reader)) << reader.get_error_message();
+    expect_one_of_each();
+  }
+  P917Question question;
+  reader.addNewQuestion(&question);
+  reader.rewind();
+  {
+    TaskData second;  // an element class, other than `Root`
+    ASSERT_EQ(0, second.unmarshal(reader)) << reader.get_error_message();
+    expect_one_of_each();
+    EXPECT_EQ(&second.GetInnerTaskData(0).GetGrower(0), reader.getGrowerContainer().at(0));
+    EXPECT_NE(nullptr, reader.getP917Metadata());
+  }
+  Root none;
+  EXPECT_EQ(34, none.unmarshal(reader)) << "nothing more in the file";
+  EXPECT_EQ(std::vector<std::size_t>(11), sizes(reader));
+  EXPECT_EQ("1", reader.getP917Metadata()->GetVersion()) << "which nothing frees";
+}
+
+TEST(Collection, FindsTheLastTaskOfAnIdentifier) {
+  Reading<> reading(document("<TSK A='TSK1' G='1'/><TSK A='TSK2' G='1'/><TSK A='TSK1' G='2'/>"));
+  const std::vector<Task*> tasks = reading.reader.getTaskContainer();
+  ASSERT_EQ(3u, tasks.size());
+  EXPECT_EQ(tasks[2], reading.reader.findLastTask("TSK1"));
+  EXPECT_EQ(tasks[1], reading.reader.findLastTask("TSK2"));
+  EXPECT_EQ(nullptr, reading.reader.findLastTask("TSK"));
+  EXPECT_EQ(nullptr, reading.reader.findLastTask(""));
+}
+
 TEST(Metadata, IsTheLastThatWasCompleted) {
   Reading<> two(document(metadata("1") + attached("AAAAAAAA.XML") + metadata("2")));
   ASSERT_EQ(0, two.error);
@@ -239,6 +287,18 @@ TEST(File, ThatCannotBeOpenedIsNotOpen) {
     EXPECT_EQ(34, root.unmarshal(reader));  // reads like an empty file, for callers that do not ask
   }
   EXPECT_EQ(before, open_files());
+}
+
+TEST(File, ThatIsAFifoOrADeviceIsNotOpened) {
+  TempDir directory;
+  const std::string fifo = directory.path("FIFO.XML");
+  ASSERT_EQ(0, mkfifo(fifo.c_str(), 0600));
+  const std::size_t before = open_files();
+  for (std::string const& path : {fifo, std::string("/dev/null"), std::string("/dev/zero")}) {
+    lmx::xmlReader reader(path.c_str());
+    EXPECT_FALSE(reader.isOpen()) << path;
+    EXPECT_EQ(before, open_files()) << path;
+  }
 }
 
 TEST(File, ThatIsADirectoryReadsAsEmpty) {
