@@ -35,13 +35,14 @@ class constant_tables {
   /// `c_xml_reader::tokenise` for elements.
   static void tokenise(lmx::c_xml_reader& reader, lmx::s_event_map const* map) {
     if (!lmx::c_xml_reader::p_is_name_event(reader.m_event)) return;
-    if (map == reader.mp_tokenised_in) {
-      reader.m_event = reader.m_tokenised_event;
+    lmx::detail::found_name& found = reader.m_cracked_name.m_found;
+    if (map == found.tokenised_in) {
+      reader.m_event = found.event;
       return;
     }
     reader.p_tokenise(map, lmx::EXAE_ELEMENT);
-    reader.mp_tokenised_in = map;
-    reader.m_tokenised_event = reader.m_event;
+    found.tokenised_in = map;
+    found.event = reader.m_event;
   }
 
   /// `c_known_elements_selector`; a null table leaves the one in force.

@@ -105,7 +105,7 @@ void c_xml_reader::p_tokenise(s_event_map const* map, elxp_attr_elem kind) {
 }
 
 int c_xml_reader::tokenise(s_event_map const* map, std::string const& name, elxp_attr_elem kind) {
-  p_crack_element_name(name);
+  m_cracked_name.set(mp_local, name);
   tokenise(map, kind);
   return m_event;
 }
@@ -115,7 +115,7 @@ bool c_xml_reader::p_find_known_element() {
                m_cracked_name.local_length()) == nullptr) {
     return false;
   }
-  if (mp_known_elements == mp_constant_known) mp_known_in = mp_known_elements;
+  if (mp_known_elements == mp_constant_known) m_cracked_name.m_found.known_in = mp_known_elements;
   return true;
 }
 
@@ -143,8 +143,6 @@ bool c_xml_reader::get_attribute_event(s_event_map const* map, elmx_error* error
     default: return false;
   }
   m_cracked_name.set_for_attribute(mp_local, *name);
-  mp_known_in = nullptr;
-  mp_tokenised_in = nullptr;
   if (map != nullptr) tokenise(map, EXAE_ATTRIBUTE);
   return true;
 }

@@ -232,15 +232,11 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
     mp_local->clear_declarations();  // the scope serves every element of this level in turn
     m_event = get_element_name(mp_local, name);
   }
-  void p_crack_element_name(std::string const& name) {
-    if (!m_cracked_name.set(mp_local, name)) return;
-    mp_known_in = nullptr;
-    mp_tokenised_in = nullptr;
-  }
   // Cracks the name. True when no table is selected or the one that is has it.
   bool p_is_known_element(std::string const& name) {
-    p_crack_element_name(name);
-    return mp_known_elements == nullptr || mp_known_in == mp_known_elements || p_find_known_element();
+    m_cracked_name.set(mp_local, name);
+    return mp_known_elements == nullptr || m_cracked_name.m_found.known_in == mp_known_elements ||
+           p_find_known_element();
   }
   bool p_find_known_element();
   void p_finish_element_event(elmx_error* error, std::string* name);
@@ -255,12 +251,7 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   std::vector<std::pair<std::string, std::string>> m_namespace_mappings;
 
  private:
-  // What the last look-ups of this very name have found in the library's own tables: siblings come in long
-  // runs. A host's table is looked through each time, since another may stand at its address by then.
-  s_known_elements const* mp_constant_known = nullptr;  // the table in force, if it is the library's
-  s_known_elements const* mp_known_in = nullptr;        // the table that has it
-  s_event_map const* mp_tokenised_in = nullptr;         // the table that gave it `m_tokenised_event`
-  int m_tokenised_event = EXE_UNKNOWN;
+  s_known_elements const* mp_constant_known = nullptr;  // the table in force, if it is the library's own
 };
 
 /// The namespace of the document's top element. False when there is none to be had. The document starts

@@ -174,6 +174,7 @@ void c_cracked_name::p_take_name(std::string const& name) {
   const std::size_t colon = name.find(':');
   m_has_prefix = colon != std::string::npos;
   m_local_offset = m_has_prefix ? colon + 1 : 0;
+  m_found = {};
 }
 
 void c_cracked_name::p_set(c_xml_local const* local, std::string const& name) {

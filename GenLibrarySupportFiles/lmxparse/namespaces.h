@@ -12,6 +12,12 @@
 #include "GenLibrarySupportFiles/lmxinternals/api.h"
 #include "GenLibrarySupportFiles/lmxinternals/c_repository.h"
 
+namespace binding {
+
+class constant_tables;
+
+}  // namespace binding
+
 namespace lmx {
 
 /// The namespace ids that are fixed. A document's own URIs count from `nsid_first_user` up.
@@ -201,15 +207,29 @@ inline bool are_same_name(std::string const& a, std::string const& b) {
 
 }  // namespace detail
 
+struct s_event_map;
+struct s_known_elements;
+
+namespace detail {
+
+/// What has been found for a name in tables that stand where they are as long as the library does: siblings
+/// come in long runs. A host's table is looked through each time, since another may stand at its address by
+/// then.
+struct found_name {
+  s_known_elements const* known_in = nullptr;  ///< A table that has the name.
+  s_event_map const* tokenised_in = nullptr;   ///< The table that gave it `event`.
+  int event = 0;
+};
+
+}  // namespace detail
+
 /// A name taken apart at its first colon.
 class ISOXML_API c_cracked_name {
  public:
-  /// Cracks an element's name as it stands in the scope `local`. False when nothing has changed by it.
-  bool set(c_xml_local const* local, std::string const& name) {
-    if (!m_has_prefix && detail::are_same_name(name, m_name) && m_id == local->default_namespace_id())
-      return false;
-    p_set(local, name);
-    return true;
+  /// Cracks an element's name as it stands in the scope `local`.
+  void set(c_xml_local const* local, std::string const& name) {
+    if (m_has_prefix || !detail::are_same_name(name, m_name) || m_id != local->default_namespace_id())
+      p_set(local, name);
   }
   /// The same for an attribute: without a prefix it is in no namespace.
   void set_for_attribute(c_xml_local const* local, std::string const& name);
@@ -227,6 +247,9 @@ class ISOXML_API c_cracked_name {
   std::string prefix() const { return m_name.substr(0, m_has_prefix ? m_local_offset - 1 : 0); }
 
  private:
+  friend class c_xml_reader;
+  friend class binding::constant_tables;
+
   void p_set(c_xml_local const* local, std::string const& name);
   void p_take_name(std::string const& name);
 
@@ -234,6 +257,7 @@ class ISOXML_API c_cracked_name {
   bool m_has_prefix = false;
   int m_id = nsid_none;
   std::size_t m_local_offset = 0;
+  detail::found_name m_found;
 };
 
 }  // namespace lmx
