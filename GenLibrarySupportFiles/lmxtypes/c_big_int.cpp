@@ -108,7 +108,7 @@ bool c_big_int::p_is_greater(char const* text) const noexcept {
 }
 
 std::ostream& operator<<(std::ostream& os, c_big_int const& value) {
-  return os.write(value.m_text.data(), static_cast<std::streamsize>(value.m_text.size()));
+  return os << value.m_text;
 }
 
 }  // namespace lmx

@@ -119,7 +119,8 @@ class ISOXML_API c_big_int {
   std::string m_text;
 };
 
-/// Writes the value's text as it is: width, fill, flags and locale of the stream have no say.
+/// Inserts the value's text, as inserting a string does: padded to the stream's width, which is then 0. No
+/// other flag and no locale has a say in it.
 ISOXML_API std::ostream& operator<<(std::ostream& os, c_big_int const& value);
 
 }  // namespace lmx

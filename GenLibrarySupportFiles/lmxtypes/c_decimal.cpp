@@ -229,8 +229,7 @@ double c_decimal::get_as_float() const noexcept {
 }
 
 std::ostream& operator<<(std::ostream& os, c_decimal const& value) {
-  std::string_view const text = value.view();
-  return os.write(text.data(), static_cast<std::streamsize>(text.size()));
+  return os << value.view();
 }
 
 void detail::put(output_buffer& out, velmo::lmx::high_precision_c_decimal const& value) {

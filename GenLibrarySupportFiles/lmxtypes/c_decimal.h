@@ -142,8 +142,9 @@ class ISOXML_API c_decimal {
   detail::compact_text m_text;  // as it is written
 };
 
-/// Writes "-" if the value is negative, the integral digits, and "." with the fraction digits if there are
-/// any. Nothing is rounded or removed: width, fill, precision and locale of the stream have no say.
+/// Inserts "-" if the value is negative, the integral digits, and "." with the fraction digits if there are
+/// any, as inserting a string does: padded to the stream's width, which is then 0. Nothing is rounded or
+/// removed: no other flag, no precision and no locale has a say in it.
 ISOXML_API std::ostream& operator<<(std::ostream& os, c_decimal const& value);
 
 }  // namespace lmx

@@ -328,8 +328,23 @@ struct grouping : std::numpunct<char> {
 TEST(BigIntOutput, IgnoresTheStreamsFormat) {
   std::ostringstream os;
   os.imbue(std::locale(std::locale::classic(), new grouping));
-  os << std::showpos << std::setfill('*') << std::setw(20) << c_big_int("-1234567");
-  EXPECT_EQ("-1234567", os.str());
+  os << std::showpos << c_big_int("-1234567") << c_big_int("1234567");
+  EXPECT_EQ("-12345671234567", os.str());
+}
+
+TEST(BigIntOutput, IsPaddedLikeText) {
+  for (char const* const text : {"5", "-12", "123456", "1234567"}) {
+    for (auto const adjust : {std::left, std::right, std::internal}) {
+      std::ostringstream value, expected;
+      value << std::setfill('*') << adjust << std::setw(6) << c_big_int(text) << '|';
+      expected << std::setfill('*') << adjust << std::setw(6) << std::string(text) << '|';
+      EXPECT_EQ(expected.str(), value.str());
+      EXPECT_EQ(0, value.width());
+    }
+  }
+  std::ostringstream os;
+  os << std::setw(6) << c_big_int("5") << 7;
+  EXPECT_EQ("     57", os.str());
 }
 
 }  // namespace

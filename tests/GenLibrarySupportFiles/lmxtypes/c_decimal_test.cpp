@@ -110,9 +110,23 @@ TEST(DecimalOutput, IgnoresTheStreamsFormat) {
   };
   std::ostringstream os;
   os.imbue(std::locale(std::locale::classic(), new grouping));
-  os << std::showpos << std::fixed << std::setprecision(2) << std::setfill('*') << std::setw(20)
-     << c_decimal("1234567.1250");
+  os << std::showpos << std::fixed << std::setprecision(2) << c_decimal("1234567.1250");
   EXPECT_EQ("1234567.1250", os.str());
+}
+
+TEST(DecimalOutput, IsPaddedLikeText) {
+  for (char const* const text : {"0.5", "-1.25", "123.456", "1234567.1250"}) {
+    for (auto const adjust : {std::left, std::right, std::internal}) {
+      std::ostringstream value, expected;
+      value << std::setfill('*') << adjust << std::setw(7) << c_decimal(text) << '|';
+      expected << std::setfill('*') << adjust << std::setw(7) << std::string(text) << '|';
+      EXPECT_EQ(expected.str(), value.str());
+      EXPECT_EQ(0, value.width());
+    }
+  }
+  std::ostringstream os;
+  os << std::setw(6) << velmo::lmx::high_precision_c_decimal("0.5") << 7;
+  EXPECT_EQ("   0.57", os.str());
 }
 
 // --- From machine numbers --------------------------------------------------------------------------------

