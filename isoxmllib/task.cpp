@@ -870,8 +870,8 @@ lmx::elmx_error InnerTime::marshal(lmx::c_xml_writer& writer, char const*) const
 lmx::elmx_error InnerTime::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerTime::SelectPosition() { selected_run<Position>(chosen, m_held, PositionChosen); }
-Position const& InnerTime::GetPosition(std::size_t index) const { LMX_ASSERT(index < 2); return run_at<Position>(m_held, {is_chosen(chosen, m_held, PositionChosen), "chosen == PositionChosen"}, index, "index < u.mPosition->size()"); }
-Position& InnerTime::GetPosition(std::size_t index) { LMX_ASSERT(index < 2); return selected_run<Position>(chosen, m_held, PositionChosen).get_or_append(index); }
+Position const& InnerTime::GetPosition(std::size_t index) const { return run_at<Position>(m_held, {is_chosen(chosen, m_held, PositionChosen), "chosen == PositionChosen"}, index, "index < u.mPosition->size()"); }
+Position& InnerTime::GetPosition(std::size_t index) { return selected_run<Position>(chosen, m_held, PositionChosen).get_or_append(index); }
 Position& InnerTime::AppendPosition() { return selected_run<Position>(chosen, m_held, PositionChosen).append(); }
 void InnerTime::AppendPosition(Position* value) { std::unique_ptr<Position> owned(value); selected_run<Position>(chosen, m_held, PositionChosen).append(std::move(owned)); }
 Position& InnerTime::InsertPosition(std::size_t index) { return selected_run<Position>(chosen, m_held, PositionChosen).insert(index); }

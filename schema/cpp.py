@@ -308,7 +308,7 @@ def alternative_event(row):
     return row.element.usual_alternative if row.name == row.element.name else row.name
 
 
-def define_alternative(wrapper, row):
+def define_alternative(wrapper, row, index_limit=None):
     name, class_name = row.name, row.element.name
     chosen = f"{name}Chosen"
     contract = f'{{is_chosen(chosen, m_held, {chosen}), "chosen == {chosen}"}}'
@@ -325,7 +325,7 @@ def define_alternative(wrapper, row):
         return lines
     run = f"selected_run<{class_name}>(chosen, m_held, {chosen})"
     index_text = quoted(f"index < u.m{name}->size()")
-    limit = f"LMX_ASSERT(index < {row.run_limit}); " if row.run_limit else ""
+    limit = f"LMX_ASSERT(index < {index_limit}); " if index_limit else ""
     return [
         f"void {wrapper}::Select{name}() {{ {run}; }}",
         f"{class_name} const& {wrapper}::Get{name}(std::size_t index) const {{ {limit}return run_at<{class_name}>(m_held, {contract}, index, {index_text}); }}",
@@ -394,7 +394,9 @@ def define_wrapper(element):
         lines.append("  return true;")
     lines += ["}"] + define_choice_marshal(name) + [""]
     for row in rows:
-        lines += define_alternative(name, row) + [""]
+        # Where wrappers repeat, the limit of a run is where reading begins the next one, and bounds no host.
+        index_limit = row.run_limit if element.children == "at_most_one" else None
+        lines += define_alternative(name, row, index_limit) + [""]
     return lines
 
 
