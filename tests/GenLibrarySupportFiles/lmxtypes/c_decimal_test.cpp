@@ -129,6 +129,44 @@ TEST(DecimalOutput, IsPaddedLikeText) {
   EXPECT_EQ("   0.57", os.str());
 }
 
+// Each of an integer type's values, in every way that a number is taken.
+template <class Value, class Integer>
+void expect_taken(Integer number) {
+  const std::string text = std::to_string(number);
+  SCOPED_TRACE(text);
+  EXPECT_EQ(text, Value(number).get_as_string());
+  Value value("77");
+  value = number;
+  EXPECT_EQ(text, value.get_as_string());
+  EXPECT_TRUE(value == number && number == value && !(value != number) && !(number != value));
+  EXPECT_TRUE(value <= number && number <= value && value >= number && number >= value);
+  EXPECT_FALSE(value < number || number < value || value > number || number > value);
+  const Value more(text[0] == '-' ? "0" : "18446744073709551616");
+  EXPECT_TRUE(more > number && number < more && more >= number && number <= more && more != number);
+  EXPECT_FALSE(more < number || number > more || more == number);
+}
+
+template <class Value, class... Integer>
+void expect_limits_taken() {
+  for (const bool lowest_too : {true, false}) {
+    (expect_taken<Value>(lowest_too ? std::numeric_limits<Integer>::min()
+                                    : std::numeric_limits<Integer>::max()),
+     ...);
+  }
+  (expect_taken<Value>(static_cast<Integer>(1)), ...);
+  (expect_taken<Value>(static_cast<Integer>(2147483648u)), ...);
+}
+
+TEST(Decimal, TakesEveryIntegerAsItIs) {
+  expect_limits_taken<c_decimal, unsigned int, unsigned long, long long, unsigned long long>();
+  expect_taken<c_decimal>(std::numeric_limits<int>::min());
+  expect_taken<c_decimal>(std::numeric_limits<short>::min());
+  expect_limits_taken<velmo::lmx::high_precision_c_decimal, unsigned int, unsigned long, long long,
+                      unsigned long long>();
+  expect_taken<velmo::lmx::high_precision_c_decimal>(std::numeric_limits<int>::min());
+  expect_taken<velmo::lmx::high_precision_c_decimal>(std::numeric_limits<short>::min());
+}
+
 // --- From machine numbers --------------------------------------------------------------------------------
 
 struct Scaled {
