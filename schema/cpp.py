@@ -763,8 +763,10 @@ def validators_source(schema):
     lines = banner("schema/rules.toml") + includes(["isoxmllib/validators.h"]) + [""] + includes(["isoxmllib/rules.h", "isoxmllib/specs.h"])
     lines += ["", "using namespace binding;", "", "namespace {", ""]
     if patterns:
-        lines += ["// Each is compiled when a text first asks for it."]
-        lines += [f"lmx::c_regex const pattern_{index}({quoted(pattern)});" for pattern, index in patterns.items()] + [""]
+        lines += ["// Each is made and compiled when a text first asks for it: memory that fails is the reader's to report,",
+                  "// and while the library is loaded nobody could. The bounds below are short enough to need none."]
+        lines += [f"lmx::c_regex const& pattern_{index}() {{ static lmx::c_regex const pattern({quoted(pattern)}); return pattern; }}"
+                  for pattern, index in patterns.items()] + [""]
     if bounds:
         lines += [f"lmx::c_big_int const {bound_name(bound)}({quoted(bound)});" for bound in bounds] + [""]
     ranges = sorted({(value.cpp_type, bound) for _, value in values if value.type == "decimal" and value.rule.low is not None

@@ -6,7 +6,7 @@
 
 namespace lmx {
 
-c_check_exception global_check_exception;
+c_check_exception global_check_exception;  // allocates nothing: its path is empty
 
 c_error::~c_error() = default;
 
