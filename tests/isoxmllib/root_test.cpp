@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -644,6 +645,16 @@ TEST(AccessorDeathTest, OfEachClassNamesItsOwnMember) {
   EXPECT_DEATH(task.GetInnerTask(0), "index < mInnerTask\\.size\\(\\)");
   EXPECT_DEATH(data.GetTask(0), "chosen == TaskChosen");
   EXPECT_DEATH(std::as_const(content).GetTask(0), "index < u\\.mTask->size\\(\\)");
+}
+
+TEST(Accessors, AddChildrenWhereOthersWereDeleted) {
+  InnerTaskData data;
+  std::set<Task const*> places;
+  for (int i = 0; i != 1000; ++i) {
+    places.insert(&data.AppendTask());
+    data.DeleteTask(0);
+  }
+  EXPECT_EQ(1u, places.size());
 }
 
 TEST(AccessorDeathTest, ARunOfTwoHasNoThirdWhereThereIsOneRunOnly) {
