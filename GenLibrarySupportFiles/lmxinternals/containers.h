@@ -40,6 +40,20 @@ namespace detail {
 template <class T, class C>
 class simple_field {
  public:
+  simple_field() = default;
+  simple_field(simple_field const&) = default;
+  /// Leaves a field behind that was never set.
+  simple_field(simple_field&& other) noexcept
+      : m_holder(std::exchange(other.m_holder, C())), m_is_set(std::exchange(other.m_is_set, false)) {}
+  simple_field& operator=(simple_field const&) = default;
+  simple_field& operator=(simple_field&& other) noexcept {
+    simple_field taken(std::move(other));
+    std::swap(m_holder, taken.m_holder);
+    std::swap(m_is_set, taken.m_is_set);
+    return *this;
+  }
+  ~simple_field() = default;
+
   /// Stores the value and sets the flag; nothing is validated. Returns 0.
   elmx_error set(T const& value) {
     m_holder.ref_value() = value;
@@ -119,13 +133,18 @@ class ct_non_pod_container {
     m_values.reserve(other.size());
     for (owner const& value : other.m_values) m_values.push_back(std::make_unique<T>(*value));
   }
+  /// Leaves an empty list behind.
   ct_non_pod_container(ct_non_pod_container&&) noexcept = default;
   ct_non_pod_container& operator=(ct_non_pod_container const& other) {
     ct_non_pod_container copy(other);
     m_values.swap(copy.m_values);
     return *this;
   }
-  ct_non_pod_container& operator=(ct_non_pod_container&&) noexcept = default;
+  ct_non_pod_container& operator=(ct_non_pod_container&& other) noexcept {
+    ct_non_pod_container taken(std::move(other));
+    m_values.swap(taken.m_values);
+    return *this;
+  }
 
   std::size_t size() const { return m_values.size(); }
   bool empty() const { return m_values.empty(); }
