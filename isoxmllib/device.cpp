@@ -17,13 +17,13 @@ using namespace binding;
 
 InnerDevice::InnerDevice() { init(); }
 InnerDevice::InnerDevice(InnerDevice const& other) = default;
-InnerDevice::InnerDevice(InnerDevice&& other) noexcept = default;
+InnerDevice::InnerDevice(InnerDevice&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerDevice::InnerDevice(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerDevice* InnerDevice::clone() const { return new InnerDevice(*this); }
 InnerDevice::~InnerDevice() = default;
 InnerDevice& InnerDevice::operator=(InnerDevice const& other) { InnerDevice copy(other); swap(copy); return *this; }
-InnerDevice& InnerDevice::operator=(InnerDevice&& other) noexcept = default;
-void InnerDevice::swap(InnerDevice& other) noexcept { std::swap(*this, other); }
+InnerDevice& InnerDevice::operator=(InnerDevice&& other) noexcept { InnerDevice taken(std::move(other)); swap(taken); return *this; }
+void InnerDevice::swap(InnerDevice& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerDevice::reset() { InnerDevice empty; swap(empty); }
 void InnerDevice::init() { chosen = NothingChosen; }
 
@@ -228,13 +228,13 @@ std::size_t Device::SizeInnerDevice() const { return mInnerDevice.size(); }
 
 InnerDeviceElement::InnerDeviceElement() { init(); }
 InnerDeviceElement::InnerDeviceElement(InnerDeviceElement const& other) = default;
-InnerDeviceElement::InnerDeviceElement(InnerDeviceElement&& other) noexcept = default;
+InnerDeviceElement::InnerDeviceElement(InnerDeviceElement&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerDeviceElement::InnerDeviceElement(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerDeviceElement* InnerDeviceElement::clone() const { return new InnerDeviceElement(*this); }
 InnerDeviceElement::~InnerDeviceElement() = default;
 InnerDeviceElement& InnerDeviceElement::operator=(InnerDeviceElement const& other) { InnerDeviceElement copy(other); swap(copy); return *this; }
-InnerDeviceElement& InnerDeviceElement::operator=(InnerDeviceElement&& other) noexcept = default;
-void InnerDeviceElement::swap(InnerDeviceElement& other) noexcept { std::swap(*this, other); }
+InnerDeviceElement& InnerDeviceElement::operator=(InnerDeviceElement&& other) noexcept { InnerDeviceElement taken(std::move(other)); swap(taken); return *this; }
+void InnerDeviceElement::swap(InnerDeviceElement& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerDeviceElement::reset() { InnerDeviceElement empty; swap(empty); }
 void InnerDeviceElement::init() { chosen = NothingChosen; }
 

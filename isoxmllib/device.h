@@ -32,6 +32,7 @@ class ISOXML_API InnerDevice {
 
   InnerDevice();
   InnerDevice(InnerDevice const& other);
+  /// Leaves `other` behind like a new object.
   InnerDevice(InnerDevice&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerDevice(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -142,6 +143,7 @@ class ISOXML_API Device {
  public:
   Device();
   Device(Device const& other);
+  /// Leaves `other` behind like a new object.
   Device(Device&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Device(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -271,6 +273,7 @@ class ISOXML_API InnerDeviceElement {
 
   InnerDeviceElement();
   InnerDeviceElement(InnerDeviceElement const& other);
+  /// Leaves `other` behind like a new object.
   InnerDeviceElement(InnerDeviceElement&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerDeviceElement(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -331,6 +334,7 @@ class ISOXML_API DeviceElement {
  public:
   DeviceElement();
   DeviceElement(DeviceElement const& other);
+  /// Leaves `other` behind like a new object.
   DeviceElement(DeviceElement&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DeviceElement(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -449,6 +453,7 @@ class ISOXML_API DeviceObjectReference {
  public:
   DeviceObjectReference();
   DeviceObjectReference(DeviceObjectReference const& other);
+  /// Leaves `other` behind like a new object.
   DeviceObjectReference(DeviceObjectReference&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DeviceObjectReference(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -508,6 +513,7 @@ class ISOXML_API DeviceProcessData {
  public:
   DeviceProcessData();
   DeviceProcessData(DeviceProcessData const& other);
+  /// Leaves `other` behind like a new object.
   DeviceProcessData(DeviceProcessData&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DeviceProcessData(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -606,6 +612,7 @@ class ISOXML_API DeviceProperty {
  public:
   DeviceProperty();
   DeviceProperty(DeviceProperty const& other);
+  /// Leaves `other` behind like a new object.
   DeviceProperty(DeviceProperty&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DeviceProperty(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -697,6 +704,7 @@ class ISOXML_API DeviceValuePresentation {
  public:
   DeviceValuePresentation();
   DeviceValuePresentation(DeviceValuePresentation const& other);
+  /// Leaves `other` behind like a new object.
   DeviceValuePresentation(DeviceValuePresentation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DeviceValuePresentation(lmx::xmlReader& reader, lmx::elmx_error* error);

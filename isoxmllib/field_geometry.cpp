@@ -18,13 +18,13 @@ using namespace binding;
 
 InnerField::InnerField() { init(); }
 InnerField::InnerField(InnerField const& other) = default;
-InnerField::InnerField(InnerField&& other) noexcept = default;
+InnerField::InnerField(InnerField&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerField::InnerField(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerField* InnerField::clone() const { return new InnerField(*this); }
 InnerField::~InnerField() = default;
 InnerField& InnerField::operator=(InnerField const& other) { InnerField copy(other); swap(copy); return *this; }
-InnerField& InnerField::operator=(InnerField&& other) noexcept = default;
-void InnerField::swap(InnerField& other) noexcept { std::swap(*this, other); }
+InnerField& InnerField::operator=(InnerField&& other) noexcept { InnerField taken(std::move(other)); swap(taken); return *this; }
+void InnerField::swap(InnerField& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerField::reset() { InnerField empty; swap(empty); }
 void InnerField::init() { chosen = NothingChosen; }
 
@@ -289,13 +289,13 @@ std::size_t Field::SizeInnerField() const { return mInnerField.size(); }
 
 InnerPolygon::InnerPolygon() { init(); }
 InnerPolygon::InnerPolygon(InnerPolygon const& other) = default;
-InnerPolygon::InnerPolygon(InnerPolygon&& other) noexcept = default;
+InnerPolygon::InnerPolygon(InnerPolygon&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerPolygon::InnerPolygon(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerPolygon* InnerPolygon::clone() const { return new InnerPolygon(*this); }
 InnerPolygon::~InnerPolygon() = default;
 InnerPolygon& InnerPolygon::operator=(InnerPolygon const& other) { InnerPolygon copy(other); swap(copy); return *this; }
-InnerPolygon& InnerPolygon::operator=(InnerPolygon&& other) noexcept = default;
-void InnerPolygon::swap(InnerPolygon& other) noexcept { std::swap(*this, other); }
+InnerPolygon& InnerPolygon::operator=(InnerPolygon&& other) noexcept { InnerPolygon taken(std::move(other)); swap(taken); return *this; }
+void InnerPolygon::swap(InnerPolygon& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerPolygon::reset() { InnerPolygon empty; swap(empty); }
 void InnerPolygon::init() { chosen = NothingChosen; }
 
@@ -450,13 +450,13 @@ bool Polygon::SetenumP917PlantProperty(elmx_enums code) { return set_enum(list_2
 
 InnerLineString::InnerLineString() { init(); }
 InnerLineString::InnerLineString(InnerLineString const& other) = default;
-InnerLineString::InnerLineString(InnerLineString&& other) noexcept = default;
+InnerLineString::InnerLineString(InnerLineString&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerLineString::InnerLineString(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerLineString* InnerLineString::clone() const { return new InnerLineString(*this); }
 InnerLineString::~InnerLineString() = default;
 InnerLineString& InnerLineString::operator=(InnerLineString const& other) { InnerLineString copy(other); swap(copy); return *this; }
-InnerLineString& InnerLineString::operator=(InnerLineString&& other) noexcept = default;
-void InnerLineString::swap(InnerLineString& other) noexcept { std::swap(*this, other); }
+InnerLineString& InnerLineString::operator=(InnerLineString&& other) noexcept { InnerLineString taken(std::move(other)); swap(taken); return *this; }
+void InnerLineString::swap(InnerLineString& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerLineString::reset() { InnerLineString empty; swap(empty); }
 void InnerLineString::init() { chosen = NothingChosen; }
 
@@ -709,13 +709,13 @@ bool Point::SetenumType(elmx_enums code) { return set_enum(list_30, code, m_Type
 
 InnerGuidanceGroup::InnerGuidanceGroup() { init(); }
 InnerGuidanceGroup::InnerGuidanceGroup(InnerGuidanceGroup const& other) = default;
-InnerGuidanceGroup::InnerGuidanceGroup(InnerGuidanceGroup&& other) noexcept = default;
+InnerGuidanceGroup::InnerGuidanceGroup(InnerGuidanceGroup&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerGuidanceGroup::InnerGuidanceGroup(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerGuidanceGroup* InnerGuidanceGroup::clone() const { return new InnerGuidanceGroup(*this); }
 InnerGuidanceGroup::~InnerGuidanceGroup() = default;
 InnerGuidanceGroup& InnerGuidanceGroup::operator=(InnerGuidanceGroup const& other) { InnerGuidanceGroup copy(other); swap(copy); return *this; }
-InnerGuidanceGroup& InnerGuidanceGroup::operator=(InnerGuidanceGroup&& other) noexcept = default;
-void InnerGuidanceGroup::swap(InnerGuidanceGroup& other) noexcept { std::swap(*this, other); }
+InnerGuidanceGroup& InnerGuidanceGroup::operator=(InnerGuidanceGroup&& other) noexcept { InnerGuidanceGroup taken(std::move(other)); swap(taken); return *this; }
+void InnerGuidanceGroup::swap(InnerGuidanceGroup& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerGuidanceGroup::reset() { InnerGuidanceGroup empty; swap(empty); }
 void InnerGuidanceGroup::init() { chosen = NothingChosen; }
 
@@ -852,13 +852,13 @@ std::size_t GuidanceGroup::SizeInnerGuidanceGroup() const { return mInnerGuidanc
 
 InnerGuidancePattern::InnerGuidancePattern() { init(); }
 InnerGuidancePattern::InnerGuidancePattern(InnerGuidancePattern const& other) = default;
-InnerGuidancePattern::InnerGuidancePattern(InnerGuidancePattern&& other) noexcept = default;
+InnerGuidancePattern::InnerGuidancePattern(InnerGuidancePattern&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerGuidancePattern::InnerGuidancePattern(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerGuidancePattern* InnerGuidancePattern::clone() const { return new InnerGuidancePattern(*this); }
 InnerGuidancePattern::~InnerGuidancePattern() = default;
 InnerGuidancePattern& InnerGuidancePattern::operator=(InnerGuidancePattern const& other) { InnerGuidancePattern copy(other); swap(copy); return *this; }
-InnerGuidancePattern& InnerGuidancePattern::operator=(InnerGuidancePattern&& other) noexcept = default;
-void InnerGuidancePattern::swap(InnerGuidancePattern& other) noexcept { std::swap(*this, other); }
+InnerGuidancePattern& InnerGuidancePattern::operator=(InnerGuidancePattern&& other) noexcept { InnerGuidancePattern taken(std::move(other)); swap(taken); return *this; }
+void InnerGuidancePattern::swap(InnerGuidancePattern& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerGuidancePattern::reset() { InnerGuidancePattern empty; swap(empty); }
 void InnerGuidancePattern::init() { chosen = NothingChosen; }
 
@@ -1048,13 +1048,13 @@ bool GuidancePattern::SetenumGNSSMethod(elmx_enums code) { return set_enum(list_
 
 InnerGuidanceAllocation::InnerGuidanceAllocation() { init(); }
 InnerGuidanceAllocation::InnerGuidanceAllocation(InnerGuidanceAllocation const& other) = default;
-InnerGuidanceAllocation::InnerGuidanceAllocation(InnerGuidanceAllocation&& other) noexcept = default;
+InnerGuidanceAllocation::InnerGuidanceAllocation(InnerGuidanceAllocation&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerGuidanceAllocation::InnerGuidanceAllocation(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerGuidanceAllocation* InnerGuidanceAllocation::clone() const { return new InnerGuidanceAllocation(*this); }
 InnerGuidanceAllocation::~InnerGuidanceAllocation() = default;
 InnerGuidanceAllocation& InnerGuidanceAllocation::operator=(InnerGuidanceAllocation const& other) { InnerGuidanceAllocation copy(other); swap(copy); return *this; }
-InnerGuidanceAllocation& InnerGuidanceAllocation::operator=(InnerGuidanceAllocation&& other) noexcept = default;
-void InnerGuidanceAllocation::swap(InnerGuidanceAllocation& other) noexcept { std::swap(*this, other); }
+InnerGuidanceAllocation& InnerGuidanceAllocation::operator=(InnerGuidanceAllocation&& other) noexcept { InnerGuidanceAllocation taken(std::move(other)); swap(taken); return *this; }
+void InnerGuidanceAllocation::swap(InnerGuidanceAllocation& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerGuidanceAllocation::reset() { InnerGuidanceAllocation empty; swap(empty); }
 void InnerGuidanceAllocation::init() { chosen = NothingChosen; }
 
@@ -1184,13 +1184,13 @@ std::size_t GuidanceAllocation::SizeInnerGuidanceAllocation() const { return mIn
 
 InnerGuidanceShift::InnerGuidanceShift() { init(); }
 InnerGuidanceShift::InnerGuidanceShift(InnerGuidanceShift const& other) = default;
-InnerGuidanceShift::InnerGuidanceShift(InnerGuidanceShift&& other) noexcept = default;
+InnerGuidanceShift::InnerGuidanceShift(InnerGuidanceShift&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerGuidanceShift::InnerGuidanceShift(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerGuidanceShift* InnerGuidanceShift::clone() const { return new InnerGuidanceShift(*this); }
 InnerGuidanceShift::~InnerGuidanceShift() = default;
 InnerGuidanceShift& InnerGuidanceShift::operator=(InnerGuidanceShift const& other) { InnerGuidanceShift copy(other); swap(copy); return *this; }
-InnerGuidanceShift& InnerGuidanceShift::operator=(InnerGuidanceShift&& other) noexcept = default;
-void InnerGuidanceShift::swap(InnerGuidanceShift& other) noexcept { std::swap(*this, other); }
+InnerGuidanceShift& InnerGuidanceShift::operator=(InnerGuidanceShift&& other) noexcept { InnerGuidanceShift taken(std::move(other)); swap(taken); return *this; }
+void InnerGuidanceShift::swap(InnerGuidanceShift& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerGuidanceShift::reset() { InnerGuidanceShift empty; swap(empty); }
 void InnerGuidanceShift::init() { chosen = NothingChosen; }
 

@@ -31,6 +31,7 @@ class ISOXML_API InnerField {
 
   InnerField();
   InnerField(InnerField const& other);
+  /// Leaves `other` behind like a new object.
   InnerField(InnerField&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerField(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -142,6 +143,7 @@ class ISOXML_API Field {
  public:
   Field();
   Field(Field const& other);
+  /// Leaves `other` behind like a new object.
   Field(Field&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Field(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -419,6 +421,7 @@ class ISOXML_API InnerPolygon {
 
   InnerPolygon();
   InnerPolygon(InnerPolygon const& other);
+  /// Leaves `other` behind like a new object.
   InnerPolygon(InnerPolygon&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerPolygon(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -478,6 +481,7 @@ class ISOXML_API Polygon {
  public:
   Polygon();
   Polygon(Polygon const& other);
+  /// Leaves `other` behind like a new object.
   Polygon(Polygon&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Polygon(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -628,6 +632,7 @@ class ISOXML_API InnerLineString {
 
   InnerLineString();
   InnerLineString(InnerLineString const& other);
+  /// Leaves `other` behind like a new object.
   InnerLineString(InnerLineString&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerLineString(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -688,6 +693,7 @@ class ISOXML_API LineString {
  public:
   LineString();
   LineString(LineString const& other);
+  /// Leaves `other` behind like a new object.
   LineString(LineString&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   LineString(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -805,6 +811,7 @@ class ISOXML_API Point {
  public:
   Point();
   Point(Point const& other);
+  /// Leaves `other` behind like a new object.
   Point(Point&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Point(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -952,6 +959,7 @@ class ISOXML_API InnerGuidanceGroup {
 
   InnerGuidanceGroup();
   InnerGuidanceGroup(InnerGuidanceGroup const& other);
+  /// Leaves `other` behind like a new object.
   InnerGuidanceGroup(InnerGuidanceGroup&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerGuidanceGroup(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1019,6 +1027,7 @@ class ISOXML_API GuidanceGroup {
  public:
   GuidanceGroup();
   GuidanceGroup(GuidanceGroup const& other);
+  /// Leaves `other` behind like a new object.
   GuidanceGroup(GuidanceGroup&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   GuidanceGroup(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1116,6 +1125,7 @@ class ISOXML_API InnerGuidancePattern {
 
   InnerGuidancePattern();
   InnerGuidancePattern(InnerGuidancePattern const& other);
+  /// Leaves `other` behind like a new object.
   InnerGuidancePattern(InnerGuidancePattern&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerGuidancePattern(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1172,6 +1182,7 @@ class ISOXML_API GuidancePattern {
  public:
   GuidancePattern();
   GuidancePattern(GuidancePattern const& other);
+  /// Leaves `other` behind like a new object.
   GuidancePattern(GuidancePattern&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   GuidancePattern(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1388,6 +1399,7 @@ class ISOXML_API InnerGuidanceAllocation {
 
   InnerGuidanceAllocation();
   InnerGuidanceAllocation(InnerGuidanceAllocation const& other);
+  /// Leaves `other` behind like a new object.
   InnerGuidanceAllocation(InnerGuidanceAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerGuidanceAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1455,6 +1467,7 @@ class ISOXML_API GuidanceAllocation {
  public:
   GuidanceAllocation();
   GuidanceAllocation(GuidanceAllocation const& other);
+  /// Leaves `other` behind like a new object.
   GuidanceAllocation(GuidanceAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   GuidanceAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1537,6 +1550,7 @@ class ISOXML_API InnerGuidanceShift {
 
   InnerGuidanceShift();
   InnerGuidanceShift(InnerGuidanceShift const& other);
+  /// Leaves `other` behind like a new object.
   InnerGuidanceShift(InnerGuidanceShift&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerGuidanceShift(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1587,6 +1601,7 @@ class ISOXML_API GuidanceShift {
  public:
   GuidanceShift();
   GuidanceShift(GuidanceShift const& other);
+  /// Leaves `other` behind like a new object.
   GuidanceShift(GuidanceShift&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   GuidanceShift(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1688,6 +1703,7 @@ class ISOXML_API BaseStation {
  public:
   BaseStation();
   BaseStation(BaseStation const& other);
+  /// Leaves `other` behind like a new object.
   BaseStation(BaseStation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   BaseStation(lmx::xmlReader& reader, lmx::elmx_error* error);

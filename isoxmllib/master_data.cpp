@@ -373,13 +373,13 @@ bool Worker::Check(lmx::c_check_tracker* tracker, char const* name) const {
 
 InnerProduct::InnerProduct() { init(); }
 InnerProduct::InnerProduct(InnerProduct const& other) = default;
-InnerProduct::InnerProduct(InnerProduct&& other) noexcept = default;
+InnerProduct::InnerProduct(InnerProduct&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerProduct::InnerProduct(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerProduct* InnerProduct::clone() const { return new InnerProduct(*this); }
 InnerProduct::~InnerProduct() = default;
 InnerProduct& InnerProduct::operator=(InnerProduct const& other) { InnerProduct copy(other); swap(copy); return *this; }
-InnerProduct& InnerProduct::operator=(InnerProduct&& other) noexcept = default;
-void InnerProduct::swap(InnerProduct& other) noexcept { std::swap(*this, other); }
+InnerProduct& InnerProduct::operator=(InnerProduct&& other) noexcept { InnerProduct taken(std::move(other)); swap(taken); return *this; }
+void InnerProduct::swap(InnerProduct& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerProduct::reset() { InnerProduct empty; swap(empty); }
 void InnerProduct::init() { chosen = NothingChosen; }
 
@@ -775,13 +775,13 @@ bool ValuePresentation::Check(lmx::c_check_tracker* tracker, char const* name) c
 
 InnerCropType::InnerCropType() { init(); }
 InnerCropType::InnerCropType(InnerCropType const& other) = default;
-InnerCropType::InnerCropType(InnerCropType&& other) noexcept = default;
+InnerCropType::InnerCropType(InnerCropType&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerCropType::InnerCropType(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerCropType* InnerCropType::clone() const { return new InnerCropType(*this); }
 InnerCropType::~InnerCropType() = default;
 InnerCropType& InnerCropType::operator=(InnerCropType const& other) { InnerCropType copy(other); swap(copy); return *this; }
-InnerCropType& InnerCropType::operator=(InnerCropType&& other) noexcept = default;
-void InnerCropType::swap(InnerCropType& other) noexcept { std::swap(*this, other); }
+InnerCropType& InnerCropType::operator=(InnerCropType&& other) noexcept { InnerCropType taken(std::move(other)); swap(taken); return *this; }
+void InnerCropType::swap(InnerCropType& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerCropType::reset() { InnerCropType empty; swap(empty); }
 void InnerCropType::init() { chosen = NothingChosen; }
 
@@ -980,13 +980,13 @@ bool CropVariety::Check(lmx::c_check_tracker* tracker, char const* name) const {
 
 InnerCulturalPractice::InnerCulturalPractice() { init(); }
 InnerCulturalPractice::InnerCulturalPractice(InnerCulturalPractice const& other) = default;
-InnerCulturalPractice::InnerCulturalPractice(InnerCulturalPractice&& other) noexcept = default;
+InnerCulturalPractice::InnerCulturalPractice(InnerCulturalPractice&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerCulturalPractice::InnerCulturalPractice(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerCulturalPractice* InnerCulturalPractice::clone() const { return new InnerCulturalPractice(*this); }
 InnerCulturalPractice::~InnerCulturalPractice() = default;
 InnerCulturalPractice& InnerCulturalPractice::operator=(InnerCulturalPractice const& other) { InnerCulturalPractice copy(other); swap(copy); return *this; }
-InnerCulturalPractice& InnerCulturalPractice::operator=(InnerCulturalPractice&& other) noexcept = default;
-void InnerCulturalPractice::swap(InnerCulturalPractice& other) noexcept { std::swap(*this, other); }
+InnerCulturalPractice& InnerCulturalPractice::operator=(InnerCulturalPractice&& other) noexcept { InnerCulturalPractice taken(std::move(other)); swap(taken); return *this; }
+void InnerCulturalPractice::swap(InnerCulturalPractice& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerCulturalPractice::reset() { InnerCulturalPractice empty; swap(empty); }
 void InnerCulturalPractice::init() { chosen = NothingChosen; }
 
@@ -1238,13 +1238,13 @@ bool OperationTechniqueReference::Check(lmx::c_check_tracker* tracker, char cons
 
 InnerCodedComment::InnerCodedComment() { init(); }
 InnerCodedComment::InnerCodedComment(InnerCodedComment const& other) = default;
-InnerCodedComment::InnerCodedComment(InnerCodedComment&& other) noexcept = default;
+InnerCodedComment::InnerCodedComment(InnerCodedComment&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerCodedComment::InnerCodedComment(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerCodedComment* InnerCodedComment::clone() const { return new InnerCodedComment(*this); }
 InnerCodedComment::~InnerCodedComment() = default;
 InnerCodedComment& InnerCodedComment::operator=(InnerCodedComment const& other) { InnerCodedComment copy(other); swap(copy); return *this; }
-InnerCodedComment& InnerCodedComment::operator=(InnerCodedComment&& other) noexcept = default;
-void InnerCodedComment::swap(InnerCodedComment& other) noexcept { std::swap(*this, other); }
+InnerCodedComment& InnerCodedComment::operator=(InnerCodedComment&& other) noexcept { InnerCodedComment taken(std::move(other)); swap(taken); return *this; }
+void InnerCodedComment::swap(InnerCodedComment& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerCodedComment::reset() { InnerCodedComment empty; swap(empty); }
 void InnerCodedComment::init() { chosen = NothingChosen; }
 
@@ -1512,13 +1512,13 @@ bool CodedCommentListValue::Check(lmx::c_check_tracker* tracker, char const* nam
 
 InnerColourLegend::InnerColourLegend() { init(); }
 InnerColourLegend::InnerColourLegend(InnerColourLegend const& other) = default;
-InnerColourLegend::InnerColourLegend(InnerColourLegend&& other) noexcept = default;
+InnerColourLegend::InnerColourLegend(InnerColourLegend&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerColourLegend::InnerColourLegend(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerColourLegend* InnerColourLegend::clone() const { return new InnerColourLegend(*this); }
 InnerColourLegend::~InnerColourLegend() = default;
 InnerColourLegend& InnerColourLegend::operator=(InnerColourLegend const& other) { InnerColourLegend copy(other); swap(copy); return *this; }
-InnerColourLegend& InnerColourLegend::operator=(InnerColourLegend&& other) noexcept = default;
-void InnerColourLegend::swap(InnerColourLegend& other) noexcept { std::swap(*this, other); }
+InnerColourLegend& InnerColourLegend::operator=(InnerColourLegend&& other) noexcept { InnerColourLegend taken(std::move(other)); swap(taken); return *this; }
+void InnerColourLegend::swap(InnerColourLegend& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerColourLegend::reset() { InnerColourLegend empty; swap(empty); }
 void InnerColourLegend::init() { chosen = NothingChosen; }
 

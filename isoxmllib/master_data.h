@@ -24,6 +24,7 @@ class ISOXML_API Grower {
  public:
   Grower();
   Grower(Grower const& other);
+  /// Leaves `other` behind like a new object.
   Grower(Grower&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Grower(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -204,6 +205,7 @@ class ISOXML_API Farm {
  public:
   Farm();
   Farm(Farm const& other);
+  /// Leaves `other` behind like a new object.
   Farm(Farm&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Farm(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -389,6 +391,7 @@ class ISOXML_API Worker {
  public:
   Worker();
   Worker(Worker const& other);
+  /// Leaves `other` behind like a new object.
   Worker(Worker&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Worker(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -539,6 +542,7 @@ class ISOXML_API InnerProduct {
 
   InnerProduct();
   InnerProduct(InnerProduct const& other);
+  /// Leaves `other` behind like a new object.
   InnerProduct(InnerProduct&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerProduct(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -599,6 +603,7 @@ class ISOXML_API Product {
  public:
   Product();
   Product(Product const& other);
+  /// Leaves `other` behind like a new object.
   Product(Product&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Product(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -779,6 +784,7 @@ class ISOXML_API ProductGroup {
  public:
   ProductGroup();
   ProductGroup(ProductGroup const& other);
+  /// Leaves `other` behind like a new object.
   ProductGroup(ProductGroup&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ProductGroup(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -857,6 +863,7 @@ class ISOXML_API ProductRelation {
  public:
   ProductRelation();
   ProductRelation(ProductRelation const& other);
+  /// Leaves `other` behind like a new object.
   ProductRelation(ProductRelation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ProductRelation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -934,6 +941,7 @@ class ISOXML_API ValuePresentation {
  public:
   ValuePresentation();
   ValuePresentation(ValuePresentation const& other);
+  /// Leaves `other` behind like a new object.
   ValuePresentation(ValuePresentation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ValuePresentation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1038,6 +1046,7 @@ class ISOXML_API InnerCropType {
 
   InnerCropType();
   InnerCropType(InnerCropType const& other);
+  /// Leaves `other` behind like a new object.
   InnerCropType(InnerCropType&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerCropType(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1097,6 +1106,7 @@ class ISOXML_API CropType {
  public:
   CropType();
   CropType(CropType const& other);
+  /// Leaves `other` behind like a new object.
   CropType(CropType&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CropType(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1188,6 +1198,7 @@ class ISOXML_API CropVariety {
  public:
   CropVariety();
   CropVariety(CropVariety const& other);
+  /// Leaves `other` behind like a new object.
   CropVariety(CropVariety&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CropVariety(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1269,6 +1280,7 @@ class ISOXML_API InnerCulturalPractice {
 
   InnerCulturalPractice();
   InnerCulturalPractice(InnerCulturalPractice const& other);
+  /// Leaves `other` behind like a new object.
   InnerCulturalPractice(InnerCulturalPractice&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerCulturalPractice(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1329,6 +1341,7 @@ class ISOXML_API CulturalPractice {
  public:
   CulturalPractice();
   CulturalPractice(CulturalPractice const& other);
+  /// Leaves `other` behind like a new object.
   CulturalPractice(CulturalPractice&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CulturalPractice(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1412,6 +1425,7 @@ class ISOXML_API OperationTechnique {
  public:
   OperationTechnique();
   OperationTechnique(OperationTechnique const& other);
+  /// Leaves `other` behind like a new object.
   OperationTechnique(OperationTechnique&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   OperationTechnique(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1479,6 +1493,7 @@ class ISOXML_API OperationTechniqueReference {
  public:
   OperationTechniqueReference();
   OperationTechniqueReference(OperationTechniqueReference const& other);
+  /// Leaves `other` behind like a new object.
   OperationTechniqueReference(OperationTechniqueReference&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   OperationTechniqueReference(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1545,6 +1560,7 @@ class ISOXML_API InnerCodedComment {
 
   InnerCodedComment();
   InnerCodedComment(InnerCodedComment const& other);
+  /// Leaves `other` behind like a new object.
   InnerCodedComment(InnerCodedComment&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerCodedComment(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1604,6 +1620,7 @@ class ISOXML_API CodedComment {
  public:
   CodedComment();
   CodedComment(CodedComment const& other);
+  /// Leaves `other` behind like a new object.
   CodedComment(CodedComment&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CodedComment(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1708,6 +1725,7 @@ class ISOXML_API CoddedCommentGroup {
  public:
   CoddedCommentGroup();
   CoddedCommentGroup(CoddedCommentGroup const& other);
+  /// Leaves `other` behind like a new object.
   CoddedCommentGroup(CoddedCommentGroup&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CoddedCommentGroup(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1776,6 +1794,7 @@ class ISOXML_API CodedCommentListValue {
  public:
   CodedCommentListValue();
   CodedCommentListValue(CodedCommentListValue const& other);
+  /// Leaves `other` behind like a new object.
   CodedCommentListValue(CodedCommentListValue&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CodedCommentListValue(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1849,6 +1868,7 @@ class ISOXML_API InnerColourLegend {
 
   InnerColourLegend();
   InnerColourLegend(InnerColourLegend const& other);
+  /// Leaves `other` behind like a new object.
   InnerColourLegend(InnerColourLegend&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerColourLegend(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1908,6 +1928,7 @@ class ISOXML_API ColourLegend {
  public:
   ColourLegend();
   ColourLegend(ColourLegend const& other);
+  /// Leaves `other` behind like a new object.
   ColourLegend(ColourLegend&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ColourLegend(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1992,6 +2013,7 @@ class ISOXML_API ColourRange {
  public:
   ColourRange();
   ColourRange(ColourRange const& other);
+  /// Leaves `other` behind like a new object.
   ColourRange(ColourRange&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ColourRange(lmx::xmlReader& reader, lmx::elmx_error* error);

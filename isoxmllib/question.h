@@ -20,6 +20,7 @@ class ISOXML_API P917Questions {
  public:
   P917Questions();
   P917Questions(P917Questions const& other);
+  /// Leaves `other` behind like a new object.
   P917Questions(P917Questions&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   P917Questions(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -89,6 +90,7 @@ class ISOXML_API P917Question {
  public:
   P917Question();
   P917Question(P917Question const& other);
+  /// Leaves `other` behind like a new object.
   P917Question(P917Question&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   P917Question(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -190,6 +192,7 @@ class ISOXML_API P917Comment {
  public:
   P917Comment();
   P917Comment(P917Comment const& other);
+  /// Leaves `other` behind like a new object.
   P917Comment(P917Comment&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   P917Comment(lmx::xmlReader& reader, lmx::elmx_error* error);

@@ -19,13 +19,13 @@ using namespace binding;
 
 Root::Root() { init(); }
 Root::Root(Root const& other) = default;
-Root::Root(Root&& other) noexcept = default;
+Root::Root(Root&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 Root::Root(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_UNDEFINED_ERROR; Root content; *error = content.unmarshal(reader); swap(content); }
 Root* Root::clone() const { return new Root(*this); }
 Root::~Root() = default;
 Root& Root::operator=(Root const& other) { Root copy(other); swap(copy); return *this; }
-Root& Root::operator=(Root&& other) noexcept = default;
-void Root::swap(Root& other) noexcept { std::swap(*this, other); }
+Root& Root::operator=(Root&& other) noexcept { Root taken(std::move(other)); swap(taken); return *this; }
+void Root::swap(Root& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void Root::reset() { Root empty; swap(empty); }
 void Root::init() { chosen = NothingChosen; }
 

@@ -84,6 +84,7 @@ class ISOXML_API Root {
 
   Root();
   Root(Root const& other);
+  /// Leaves `other` behind like a new object.
   Root(Root&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Root(lmx::xmlReader& reader, lmx::elmx_error* error);

@@ -31,7 +31,7 @@ lmx::elmx_error check_text(lmx::c_xml_reader& reader, std::string const& text, t
     error = report_value(reader, lmx::ELMX_LENGTH_TOO_LONG);
     if (error != lmx::ELMX_OK) return error;
   }
-  if (rule.pattern != nullptr && !rule.pattern->is_match(text)) {
+  if (rule.pattern != nullptr && !rule.pattern().is_match(text)) {
     return report_value(reader, lmx::ELMX_NO_PATTERN_MATCHED);
   }
   return lmx::ELMX_OK;

@@ -30,7 +30,7 @@ struct text_rule {
   bool (*is_valid)(std::string const& text);  ///< The form (35); null for any.
   unsigned min_length;                        ///< In characters (20).
   unsigned max_length;                        ///< In characters (19); `no_max_length` for any.
-  lmx::c_regex const* pattern;                ///< What the whole text must match (22); null for anything.
+  lmx::c_regex const& (*pattern)();           ///< What the whole text must match (22); null for anything.
 };
 
 /// Reports `code` for the value now being read.

@@ -19,13 +19,13 @@ using namespace binding;
 
 InnerTask::InnerTask() { init(); }
 InnerTask::InnerTask(InnerTask const& other) = default;
-InnerTask::InnerTask(InnerTask&& other) noexcept = default;
+InnerTask::InnerTask(InnerTask&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerTask::InnerTask(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerTask* InnerTask::clone() const { return new InnerTask(*this); }
 InnerTask::~InnerTask() = default;
 InnerTask& InnerTask::operator=(InnerTask const& other) { InnerTask copy(other); swap(copy); return *this; }
-InnerTask& InnerTask::operator=(InnerTask&& other) noexcept = default;
-void InnerTask::swap(InnerTask& other) noexcept { std::swap(*this, other); }
+InnerTask& InnerTask::operator=(InnerTask&& other) noexcept { InnerTask taken(std::move(other)); swap(taken); return *this; }
+void InnerTask::swap(InnerTask& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerTask::reset() { InnerTask empty; swap(empty); }
 void InnerTask::init() { chosen = NothingChosen; }
 
@@ -405,13 +405,13 @@ bool Task::SetenumStatus(elmx_enums code) { return set_enum(list_34, code, m_Sta
 
 InnerTreatmentZone::InnerTreatmentZone() { init(); }
 InnerTreatmentZone::InnerTreatmentZone(InnerTreatmentZone const& other) = default;
-InnerTreatmentZone::InnerTreatmentZone(InnerTreatmentZone&& other) noexcept = default;
+InnerTreatmentZone::InnerTreatmentZone(InnerTreatmentZone&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerTreatmentZone::InnerTreatmentZone(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerTreatmentZone* InnerTreatmentZone::clone() const { return new InnerTreatmentZone(*this); }
 InnerTreatmentZone::~InnerTreatmentZone() = default;
 InnerTreatmentZone& InnerTreatmentZone::operator=(InnerTreatmentZone const& other) { InnerTreatmentZone copy(other); swap(copy); return *this; }
-InnerTreatmentZone& InnerTreatmentZone::operator=(InnerTreatmentZone&& other) noexcept = default;
-void InnerTreatmentZone::swap(InnerTreatmentZone& other) noexcept { std::swap(*this, other); }
+InnerTreatmentZone& InnerTreatmentZone::operator=(InnerTreatmentZone&& other) noexcept { InnerTreatmentZone taken(std::move(other)); swap(taken); return *this; }
+void InnerTreatmentZone::swap(InnerTreatmentZone& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerTreatmentZone::reset() { InnerTreatmentZone empty; swap(empty); }
 void InnerTreatmentZone::init() { chosen = NothingChosen; }
 
@@ -558,13 +558,13 @@ std::size_t TreatmentZone::SizeInnerTreatmentZone() const { return mInnerTreatme
 
 InnerProcessDataVariable::InnerProcessDataVariable() { init(); }
 InnerProcessDataVariable::InnerProcessDataVariable(InnerProcessDataVariable const& other) = default;
-InnerProcessDataVariable::InnerProcessDataVariable(InnerProcessDataVariable&& other) noexcept = default;
+InnerProcessDataVariable::InnerProcessDataVariable(InnerProcessDataVariable&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerProcessDataVariable::InnerProcessDataVariable(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerProcessDataVariable* InnerProcessDataVariable::clone() const { return new InnerProcessDataVariable(*this); }
 InnerProcessDataVariable::~InnerProcessDataVariable() = default;
 InnerProcessDataVariable& InnerProcessDataVariable::operator=(InnerProcessDataVariable const& other) { InnerProcessDataVariable copy(other); swap(copy); return *this; }
-InnerProcessDataVariable& InnerProcessDataVariable::operator=(InnerProcessDataVariable&& other) noexcept = default;
-void InnerProcessDataVariable::swap(InnerProcessDataVariable& other) noexcept { std::swap(*this, other); }
+InnerProcessDataVariable& InnerProcessDataVariable::operator=(InnerProcessDataVariable&& other) noexcept { InnerProcessDataVariable taken(std::move(other)); swap(taken); return *this; }
+void InnerProcessDataVariable::swap(InnerProcessDataVariable& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerProcessDataVariable::reset() { InnerProcessDataVariable empty; swap(empty); }
 void InnerProcessDataVariable::init() { chosen = NothingChosen; }
 
@@ -831,13 +831,13 @@ bool Grid::SetenumType(elmx_enums code) { return set_enum(list_2, code, m_Type);
 
 InnerTime::InnerTime() { init(); }
 InnerTime::InnerTime(InnerTime const& other) = default;
-InnerTime::InnerTime(InnerTime&& other) noexcept = default;
+InnerTime::InnerTime(InnerTime&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerTime::InnerTime(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerTime* InnerTime::clone() const { return new InnerTime(*this); }
 InnerTime::~InnerTime() = default;
 InnerTime& InnerTime::operator=(InnerTime const& other) { InnerTime copy(other); swap(copy); return *this; }
-InnerTime& InnerTime::operator=(InnerTime&& other) noexcept = default;
-void InnerTime::swap(InnerTime& other) noexcept { std::swap(*this, other); }
+InnerTime& InnerTime::operator=(InnerTime&& other) noexcept { InnerTime taken(std::move(other)); swap(taken); return *this; }
+void InnerTime::swap(InnerTime& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerTime::reset() { InnerTime empty; swap(empty); }
 void InnerTime::init() { chosen = NothingChosen; }
 
@@ -870,8 +870,8 @@ lmx::elmx_error InnerTime::marshal(lmx::c_xml_writer& writer, char const*) const
 lmx::elmx_error InnerTime::marshal_child_elements(lmx::c_xml_writer& writer) const { return write_choice(writer, m_held, chosen, NothingChosen, elem_event_map, __LINE__); }
 
 void InnerTime::SelectPosition() { selected_run<Position>(chosen, m_held, PositionChosen); }
-Position const& InnerTime::GetPosition(std::size_t index) const { LMX_ASSERT(index < 2); return run_at<Position>(m_held, {is_chosen(chosen, m_held, PositionChosen), "chosen == PositionChosen"}, index, "index < u.mPosition->size()"); }
-Position& InnerTime::GetPosition(std::size_t index) { LMX_ASSERT(index < 2); return selected_run<Position>(chosen, m_held, PositionChosen).get_or_append(index); }
+Position const& InnerTime::GetPosition(std::size_t index) const { return run_at<Position>(m_held, {is_chosen(chosen, m_held, PositionChosen), "chosen == PositionChosen"}, index, "index < u.mPosition->size()"); }
+Position& InnerTime::GetPosition(std::size_t index) { return selected_run<Position>(chosen, m_held, PositionChosen).get_or_append(index); }
 Position& InnerTime::AppendPosition() { return selected_run<Position>(chosen, m_held, PositionChosen).append(); }
 void InnerTime::AppendPosition(Position* value) { std::unique_ptr<Position> owned(value); selected_run<Position>(chosen, m_held, PositionChosen).append(std::move(owned)); }
 Position& InnerTime::InsertPosition(std::size_t index) { return selected_run<Position>(chosen, m_held, PositionChosen).insert(index); }
@@ -1352,13 +1352,13 @@ bool TimeLog::SetenumType(elmx_enums code) { return set_enum(list_11, code, m_Ty
 
 InnerAllocationStamp::InnerAllocationStamp() { init(); }
 InnerAllocationStamp::InnerAllocationStamp(InnerAllocationStamp const& other) = default;
-InnerAllocationStamp::InnerAllocationStamp(InnerAllocationStamp&& other) noexcept = default;
+InnerAllocationStamp::InnerAllocationStamp(InnerAllocationStamp&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerAllocationStamp::InnerAllocationStamp(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerAllocationStamp* InnerAllocationStamp::clone() const { return new InnerAllocationStamp(*this); }
 InnerAllocationStamp::~InnerAllocationStamp() = default;
 InnerAllocationStamp& InnerAllocationStamp::operator=(InnerAllocationStamp const& other) { InnerAllocationStamp copy(other); swap(copy); return *this; }
-InnerAllocationStamp& InnerAllocationStamp::operator=(InnerAllocationStamp&& other) noexcept = default;
-void InnerAllocationStamp::swap(InnerAllocationStamp& other) noexcept { std::swap(*this, other); }
+InnerAllocationStamp& InnerAllocationStamp::operator=(InnerAllocationStamp&& other) noexcept { InnerAllocationStamp taken(std::move(other)); swap(taken); return *this; }
+void InnerAllocationStamp::swap(InnerAllocationStamp& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerAllocationStamp::reset() { InnerAllocationStamp empty; swap(empty); }
 void InnerAllocationStamp::init() { chosen = NothingChosen; }
 
@@ -1487,13 +1487,13 @@ bool AllocationStamp::SetenumType(elmx_enums code) { return set_enum(list_13, co
 
 InnerCommentAllocation::InnerCommentAllocation() { init(); }
 InnerCommentAllocation::InnerCommentAllocation(InnerCommentAllocation const& other) = default;
-InnerCommentAllocation::InnerCommentAllocation(InnerCommentAllocation&& other) noexcept = default;
+InnerCommentAllocation::InnerCommentAllocation(InnerCommentAllocation&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerCommentAllocation::InnerCommentAllocation(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerCommentAllocation* InnerCommentAllocation::clone() const { return new InnerCommentAllocation(*this); }
 InnerCommentAllocation::~InnerCommentAllocation() = default;
 InnerCommentAllocation& InnerCommentAllocation::operator=(InnerCommentAllocation const& other) { InnerCommentAllocation copy(other); swap(copy); return *this; }
-InnerCommentAllocation& InnerCommentAllocation::operator=(InnerCommentAllocation&& other) noexcept = default;
-void InnerCommentAllocation::swap(InnerCommentAllocation& other) noexcept { std::swap(*this, other); }
+InnerCommentAllocation& InnerCommentAllocation::operator=(InnerCommentAllocation&& other) noexcept { InnerCommentAllocation taken(std::move(other)); swap(taken); return *this; }
+void InnerCommentAllocation::swap(InnerCommentAllocation& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerCommentAllocation::reset() { InnerCommentAllocation empty; swap(empty); }
 void InnerCommentAllocation::init() { chosen = NothingChosen; }
 
@@ -1603,13 +1603,13 @@ void CommentAllocation::UnsetInnerCommentAllocation() { mInnerCommentAllocation.
 
 InnerDeviceAllocation::InnerDeviceAllocation() { init(); }
 InnerDeviceAllocation::InnerDeviceAllocation(InnerDeviceAllocation const& other) = default;
-InnerDeviceAllocation::InnerDeviceAllocation(InnerDeviceAllocation&& other) noexcept = default;
+InnerDeviceAllocation::InnerDeviceAllocation(InnerDeviceAllocation&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerDeviceAllocation::InnerDeviceAllocation(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerDeviceAllocation* InnerDeviceAllocation::clone() const { return new InnerDeviceAllocation(*this); }
 InnerDeviceAllocation::~InnerDeviceAllocation() = default;
 InnerDeviceAllocation& InnerDeviceAllocation::operator=(InnerDeviceAllocation const& other) { InnerDeviceAllocation copy(other); swap(copy); return *this; }
-InnerDeviceAllocation& InnerDeviceAllocation::operator=(InnerDeviceAllocation&& other) noexcept = default;
-void InnerDeviceAllocation::swap(InnerDeviceAllocation& other) noexcept { std::swap(*this, other); }
+InnerDeviceAllocation& InnerDeviceAllocation::operator=(InnerDeviceAllocation&& other) noexcept { InnerDeviceAllocation taken(std::move(other)); swap(taken); return *this; }
+void InnerDeviceAllocation::swap(InnerDeviceAllocation& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerDeviceAllocation::reset() { InnerDeviceAllocation empty; swap(empty); }
 void InnerDeviceAllocation::init() { chosen = NothingChosen; }
 
@@ -1721,13 +1721,13 @@ void DeviceAllocation::UnsetInnerDeviceAllocation() { mInnerDeviceAllocation.uns
 
 InnerWorkerAllocation::InnerWorkerAllocation() { init(); }
 InnerWorkerAllocation::InnerWorkerAllocation(InnerWorkerAllocation const& other) = default;
-InnerWorkerAllocation::InnerWorkerAllocation(InnerWorkerAllocation&& other) noexcept = default;
+InnerWorkerAllocation::InnerWorkerAllocation(InnerWorkerAllocation&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerWorkerAllocation::InnerWorkerAllocation(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerWorkerAllocation* InnerWorkerAllocation::clone() const { return new InnerWorkerAllocation(*this); }
 InnerWorkerAllocation::~InnerWorkerAllocation() = default;
 InnerWorkerAllocation& InnerWorkerAllocation::operator=(InnerWorkerAllocation const& other) { InnerWorkerAllocation copy(other); swap(copy); return *this; }
-InnerWorkerAllocation& InnerWorkerAllocation::operator=(InnerWorkerAllocation&& other) noexcept = default;
-void InnerWorkerAllocation::swap(InnerWorkerAllocation& other) noexcept { std::swap(*this, other); }
+InnerWorkerAllocation& InnerWorkerAllocation::operator=(InnerWorkerAllocation&& other) noexcept { InnerWorkerAllocation taken(std::move(other)); swap(taken); return *this; }
+void InnerWorkerAllocation::swap(InnerWorkerAllocation& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerWorkerAllocation::reset() { InnerWorkerAllocation empty; swap(empty); }
 void InnerWorkerAllocation::init() { chosen = NothingChosen; }
 
@@ -1831,13 +1831,13 @@ void WorkerAllocation::UnsetInnerWorkerAllocation() { mInnerWorkerAllocation.uns
 
 InnerProductAllocation::InnerProductAllocation() { init(); }
 InnerProductAllocation::InnerProductAllocation(InnerProductAllocation const& other) = default;
-InnerProductAllocation::InnerProductAllocation(InnerProductAllocation&& other) noexcept = default;
+InnerProductAllocation::InnerProductAllocation(InnerProductAllocation&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerProductAllocation::InnerProductAllocation(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerProductAllocation* InnerProductAllocation::clone() const { return new InnerProductAllocation(*this); }
 InnerProductAllocation::~InnerProductAllocation() = default;
 InnerProductAllocation& InnerProductAllocation::operator=(InnerProductAllocation const& other) { InnerProductAllocation copy(other); swap(copy); return *this; }
-InnerProductAllocation& InnerProductAllocation::operator=(InnerProductAllocation&& other) noexcept = default;
-void InnerProductAllocation::swap(InnerProductAllocation& other) noexcept { std::swap(*this, other); }
+InnerProductAllocation& InnerProductAllocation::operator=(InnerProductAllocation&& other) noexcept { InnerProductAllocation taken(std::move(other)); swap(taken); return *this; }
+void InnerProductAllocation::swap(InnerProductAllocation& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerProductAllocation::reset() { InnerProductAllocation empty; swap(empty); }
 void InnerProductAllocation::init() { chosen = NothingChosen; }
 
@@ -1967,13 +1967,13 @@ bool ProductAllocation::SetenumTransferMode(elmx_enums code) { return set_enum(l
 
 InnerControlAssignment::InnerControlAssignment() { init(); }
 InnerControlAssignment::InnerControlAssignment(InnerControlAssignment const& other) = default;
-InnerControlAssignment::InnerControlAssignment(InnerControlAssignment&& other) noexcept = default;
+InnerControlAssignment::InnerControlAssignment(InnerControlAssignment&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerControlAssignment::InnerControlAssignment(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerControlAssignment* InnerControlAssignment::clone() const { return new InnerControlAssignment(*this); }
 InnerControlAssignment::~InnerControlAssignment() = default;
 InnerControlAssignment& InnerControlAssignment::operator=(InnerControlAssignment const& other) { InnerControlAssignment copy(other); swap(copy); return *this; }
-InnerControlAssignment& InnerControlAssignment::operator=(InnerControlAssignment&& other) noexcept = default;
-void InnerControlAssignment::swap(InnerControlAssignment& other) noexcept { std::swap(*this, other); }
+InnerControlAssignment& InnerControlAssignment::operator=(InnerControlAssignment&& other) noexcept { InnerControlAssignment taken(std::move(other)); swap(taken); return *this; }
+void InnerControlAssignment::swap(InnerControlAssignment& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerControlAssignment::reset() { InnerControlAssignment empty; swap(empty); }
 void InnerControlAssignment::init() { chosen = NothingChosen; }
 

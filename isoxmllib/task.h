@@ -43,6 +43,7 @@ class ISOXML_API InnerTask {
 
   InnerTask();
   InnerTask(InnerTask const& other);
+  /// Leaves `other` behind like a new object.
   InnerTask(InnerTask&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerTask(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -295,6 +296,7 @@ class ISOXML_API Task {
  public:
   Task();
   Task(Task const& other);
+  /// Leaves `other` behind like a new object.
   Task(Task&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Task(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -456,6 +458,7 @@ class ISOXML_API InnerTreatmentZone {
 
   InnerTreatmentZone();
   InnerTreatmentZone(InnerTreatmentZone const& other);
+  /// Leaves `other` behind like a new object.
   InnerTreatmentZone(InnerTreatmentZone&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerTreatmentZone(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -533,6 +536,7 @@ class ISOXML_API TreatmentZone {
  public:
   TreatmentZone();
   TreatmentZone(TreatmentZone const& other);
+  /// Leaves `other` behind like a new object.
   TreatmentZone(TreatmentZone&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   TreatmentZone(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -628,6 +632,7 @@ class ISOXML_API InnerProcessDataVariable {
 
   InnerProcessDataVariable();
   InnerProcessDataVariable(InnerProcessDataVariable const& other);
+  /// Leaves `other` behind like a new object.
   InnerProcessDataVariable(InnerProcessDataVariable&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerProcessDataVariable(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -688,6 +693,7 @@ class ISOXML_API ProcessDataVariable {
  public:
   ProcessDataVariable();
   ProcessDataVariable(ProcessDataVariable const& other);
+  /// Leaves `other` behind like a new object.
   ProcessDataVariable(ProcessDataVariable&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ProcessDataVariable(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -856,6 +862,7 @@ class ISOXML_API Grid {
  public:
   Grid();
   Grid(Grid const& other);
+  /// Leaves `other` behind like a new object.
   Grid(Grid&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Grid(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -994,6 +1001,7 @@ class ISOXML_API InnerTime {
 
   InnerTime();
   InnerTime(InnerTime const& other);
+  /// Leaves `other` behind like a new object.
   InnerTime(InnerTime&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerTime(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1071,6 +1079,7 @@ class ISOXML_API Time {
  public:
   Time();
   Time(Time const& other);
+  /// Leaves `other` behind like a new object.
   Time(Time&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Time(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1172,6 +1181,7 @@ class ISOXML_API Position {
  public:
   Position();
   Position(Position const& other);
+  /// Leaves `other` behind like a new object.
   Position(Position&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Position(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1295,6 +1305,7 @@ class ISOXML_API DataLogTrigger {
  public:
   DataLogTrigger();
   DataLogTrigger(DataLogTrigger const& other);
+  /// Leaves `other` behind like a new object.
   DataLogTrigger(DataLogTrigger&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DataLogTrigger(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1440,6 +1451,7 @@ class ISOXML_API DataLogValue {
  public:
   DataLogValue();
   DataLogValue(DataLogValue const& other);
+  /// Leaves `other` behind like a new object.
   DataLogValue(DataLogValue&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DataLogValue(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1541,6 +1553,7 @@ class ISOXML_API TimeLog {
  public:
   TimeLog();
   TimeLog(TimeLog const& other);
+  /// Leaves `other` behind like a new object.
   TimeLog(TimeLog&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   TimeLog(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1625,6 +1638,7 @@ class ISOXML_API InnerAllocationStamp {
 
   InnerAllocationStamp();
   InnerAllocationStamp(InnerAllocationStamp const& other);
+  /// Leaves `other` behind like a new object.
   InnerAllocationStamp(InnerAllocationStamp&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerAllocationStamp(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1685,6 +1699,7 @@ class ISOXML_API AllocationStamp {
  public:
   AllocationStamp();
   AllocationStamp(AllocationStamp const& other);
+  /// Leaves `other` behind like a new object.
   AllocationStamp(AllocationStamp&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   AllocationStamp(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1786,6 +1801,7 @@ class ISOXML_API InnerCommentAllocation {
 
   InnerCommentAllocation();
   InnerCommentAllocation(InnerCommentAllocation const& other);
+  /// Leaves `other` behind like a new object.
   InnerCommentAllocation(InnerCommentAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerCommentAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1835,6 +1851,7 @@ class ISOXML_API CommentAllocation {
  public:
   CommentAllocation();
   CommentAllocation(CommentAllocation const& other);
+  /// Leaves `other` behind like a new object.
   CommentAllocation(CommentAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   CommentAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1926,6 +1943,7 @@ class ISOXML_API InnerDeviceAllocation {
 
   InnerDeviceAllocation();
   InnerDeviceAllocation(InnerDeviceAllocation const& other);
+  /// Leaves `other` behind like a new object.
   InnerDeviceAllocation(InnerDeviceAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerDeviceAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1976,6 +1994,7 @@ class ISOXML_API DeviceAllocation {
  public:
   DeviceAllocation();
   DeviceAllocation(DeviceAllocation const& other);
+  /// Leaves `other` behind like a new object.
   DeviceAllocation(DeviceAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   DeviceAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2068,6 +2087,7 @@ class ISOXML_API InnerWorkerAllocation {
 
   InnerWorkerAllocation();
   InnerWorkerAllocation(InnerWorkerAllocation const& other);
+  /// Leaves `other` behind like a new object.
   InnerWorkerAllocation(InnerWorkerAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerWorkerAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2117,6 +2137,7 @@ class ISOXML_API WorkerAllocation {
  public:
   WorkerAllocation();
   WorkerAllocation(WorkerAllocation const& other);
+  /// Leaves `other` behind like a new object.
   WorkerAllocation(WorkerAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   WorkerAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2193,6 +2214,7 @@ class ISOXML_API InnerProductAllocation {
 
   InnerProductAllocation();
   InnerProductAllocation(InnerProductAllocation const& other);
+  /// Leaves `other` behind like a new object.
   InnerProductAllocation(InnerProductAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerProductAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2243,6 +2265,7 @@ class ISOXML_API ProductAllocation {
  public:
   ProductAllocation();
   ProductAllocation(ProductAllocation const& other);
+  /// Leaves `other` behind like a new object.
   ProductAllocation(ProductAllocation&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ProductAllocation(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2370,6 +2393,7 @@ class ISOXML_API InnerControlAssignment {
 
   InnerControlAssignment();
   InnerControlAssignment(InnerControlAssignment const& other);
+  /// Leaves `other` behind like a new object.
   InnerControlAssignment(InnerControlAssignment&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerControlAssignment(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2420,6 +2444,7 @@ class ISOXML_API ControlAssignment {
  public:
   ControlAssignment();
   ControlAssignment(ControlAssignment const& other);
+  /// Leaves `other` behind like a new object.
   ControlAssignment(ControlAssignment&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ControlAssignment(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2539,6 +2564,7 @@ class ISOXML_API Connection {
  public:
   Connection();
   Connection(Connection const& other);
+  /// Leaves `other` behind like a new object.
   Connection(Connection&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Connection(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -2622,6 +2648,7 @@ class ISOXML_API OperTechPractice {
  public:
   OperTechPractice();
   OperTechPractice(OperTechPractice const& other);
+  /// Leaves `other` behind like a new object.
   OperTechPractice(OperTechPractice&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   OperTechPractice(lmx::xmlReader& reader, lmx::elmx_error* error);

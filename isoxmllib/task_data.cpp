@@ -22,13 +22,13 @@ using namespace binding;
 
 InnerTaskData::InnerTaskData() { init(); }
 InnerTaskData::InnerTaskData(InnerTaskData const& other) = default;
-InnerTaskData::InnerTaskData(InnerTaskData&& other) noexcept = default;
+InnerTaskData::InnerTaskData(InnerTaskData&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerTaskData::InnerTaskData(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerTaskData* InnerTaskData::clone() const { return new InnerTaskData(*this); }
 InnerTaskData::~InnerTaskData() = default;
 InnerTaskData& InnerTaskData::operator=(InnerTaskData const& other) { InnerTaskData copy(other); swap(copy); return *this; }
-InnerTaskData& InnerTaskData::operator=(InnerTaskData&& other) noexcept = default;
-void InnerTaskData::swap(InnerTaskData& other) noexcept { std::swap(*this, other); }
+InnerTaskData& InnerTaskData::operator=(InnerTaskData&& other) noexcept { InnerTaskData taken(std::move(other)); swap(taken); return *this; }
+void InnerTaskData::swap(InnerTaskData& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerTaskData::reset() { InnerTaskData empty; swap(empty); }
 void InnerTaskData::init() { chosen = NothingChosen; }
 
@@ -530,13 +530,13 @@ bool TaskData::SetenumDataTransferOrigin(elmx_enums code) { return set_enum(list
 
 InnerExternalFileContent::InnerExternalFileContent() { init(); }
 InnerExternalFileContent::InnerExternalFileContent(InnerExternalFileContent const& other) = default;
-InnerExternalFileContent::InnerExternalFileContent(InnerExternalFileContent&& other) noexcept = default;
+InnerExternalFileContent::InnerExternalFileContent(InnerExternalFileContent&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerExternalFileContent::InnerExternalFileContent(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerExternalFileContent* InnerExternalFileContent::clone() const { return new InnerExternalFileContent(*this); }
 InnerExternalFileContent::~InnerExternalFileContent() = default;
 InnerExternalFileContent& InnerExternalFileContent::operator=(InnerExternalFileContent const& other) { InnerExternalFileContent copy(other); swap(copy); return *this; }
-InnerExternalFileContent& InnerExternalFileContent::operator=(InnerExternalFileContent&& other) noexcept = default;
-void InnerExternalFileContent::swap(InnerExternalFileContent& other) noexcept { std::swap(*this, other); }
+InnerExternalFileContent& InnerExternalFileContent::operator=(InnerExternalFileContent&& other) noexcept { InnerExternalFileContent taken(std::move(other)); swap(taken); return *this; }
+void InnerExternalFileContent::swap(InnerExternalFileContent& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerExternalFileContent::reset() { InnerExternalFileContent empty; swap(empty); }
 void InnerExternalFileContent::init() { chosen = NothingChosen; }
 
@@ -1242,13 +1242,13 @@ bool P917Metadata::SetenumJobStatusId(elmx_enums code) { return set_enum(list_8,
 
 InnerLinkList::InnerLinkList() { init(); }
 InnerLinkList::InnerLinkList(InnerLinkList const& other) = default;
-InnerLinkList::InnerLinkList(InnerLinkList&& other) noexcept = default;
+InnerLinkList::InnerLinkList(InnerLinkList&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerLinkList::InnerLinkList(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerLinkList* InnerLinkList::clone() const { return new InnerLinkList(*this); }
 InnerLinkList::~InnerLinkList() = default;
 InnerLinkList& InnerLinkList::operator=(InnerLinkList const& other) { InnerLinkList copy(other); swap(copy); return *this; }
-InnerLinkList& InnerLinkList::operator=(InnerLinkList&& other) noexcept = default;
-void InnerLinkList::swap(InnerLinkList& other) noexcept { std::swap(*this, other); }
+InnerLinkList& InnerLinkList::operator=(InnerLinkList&& other) noexcept { InnerLinkList taken(std::move(other)); swap(taken); return *this; }
+void InnerLinkList::swap(InnerLinkList& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerLinkList::reset() { InnerLinkList empty; swap(empty); }
 void InnerLinkList::init() { chosen = NothingChosen; }
 
@@ -1390,13 +1390,13 @@ bool LinkList::SetenumDataTransferOrigin(elmx_enums code) { return set_enum(list
 
 InnerLinkGroup::InnerLinkGroup() { init(); }
 InnerLinkGroup::InnerLinkGroup(InnerLinkGroup const& other) = default;
-InnerLinkGroup::InnerLinkGroup(InnerLinkGroup&& other) noexcept = default;
+InnerLinkGroup::InnerLinkGroup(InnerLinkGroup&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerLinkGroup::InnerLinkGroup(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerLinkGroup* InnerLinkGroup::clone() const { return new InnerLinkGroup(*this); }
 InnerLinkGroup::~InnerLinkGroup() = default;
 InnerLinkGroup& InnerLinkGroup::operator=(InnerLinkGroup const& other) { InnerLinkGroup copy(other); swap(copy); return *this; }
-InnerLinkGroup& InnerLinkGroup::operator=(InnerLinkGroup&& other) noexcept = default;
-void InnerLinkGroup::swap(InnerLinkGroup& other) noexcept { std::swap(*this, other); }
+InnerLinkGroup& InnerLinkGroup::operator=(InnerLinkGroup&& other) noexcept { InnerLinkGroup taken(std::move(other)); swap(taken); return *this; }
+void InnerLinkGroup::swap(InnerLinkGroup& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerLinkGroup::reset() { InnerLinkGroup empty; swap(empty); }
 void InnerLinkGroup::init() { chosen = NothingChosen; }
 

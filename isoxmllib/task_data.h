@@ -48,6 +48,7 @@ class ISOXML_API InnerTaskData {
 
   InnerTaskData();
   InnerTaskData(InnerTaskData const& other);
+  /// Leaves `other` behind like a new object.
   InnerTaskData(InnerTaskData&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerTaskData(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -428,6 +429,7 @@ class ISOXML_API TaskData {
  public:
   TaskData();
   TaskData(TaskData const& other);
+  /// Leaves `other` behind like a new object.
   TaskData(TaskData&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   TaskData(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -580,6 +582,7 @@ class ISOXML_API InnerExternalFileContent {
 
   InnerExternalFileContent();
   InnerExternalFileContent(InnerExternalFileContent const& other);
+  /// Leaves `other` behind like a new object.
   InnerExternalFileContent(InnerExternalFileContent&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerExternalFileContent(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -894,6 +897,7 @@ class ISOXML_API ExternalFileContent {
  public:
   ExternalFileContent();
   ExternalFileContent(ExternalFileContent const& other);
+  /// Leaves `other` behind like a new object.
   ExternalFileContent(ExternalFileContent&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ExternalFileContent(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -963,6 +967,7 @@ class ISOXML_API ExternalFileReference {
  public:
   ExternalFileReference();
   ExternalFileReference(ExternalFileReference const& other);
+  /// Leaves `other` behind like a new object.
   ExternalFileReference(ExternalFileReference&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   ExternalFileReference(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1036,6 +1041,7 @@ class ISOXML_API AttachedFile {
  public:
   AttachedFile();
   AttachedFile(AttachedFile const& other);
+  /// Leaves `other` behind like a new object.
   AttachedFile(AttachedFile&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   AttachedFile(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1138,6 +1144,7 @@ class ISOXML_API TaskControllerCapabilities {
  public:
   TaskControllerCapabilities();
   TaskControllerCapabilities(TaskControllerCapabilities const& other);
+  /// Leaves `other` behind like a new object.
   TaskControllerCapabilities(TaskControllerCapabilities&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   TaskControllerCapabilities(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1246,6 +1253,7 @@ class ISOXML_API P917Metadata {
  public:
   P917Metadata();
   P917Metadata(P917Metadata const& other);
+  /// Leaves `other` behind like a new object.
   P917Metadata(P917Metadata&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   P917Metadata(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1342,6 +1350,7 @@ class ISOXML_API InnerLinkList {
 
   InnerLinkList();
   InnerLinkList(InnerLinkList const& other);
+  /// Leaves `other` behind like a new object.
   InnerLinkList(InnerLinkList&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerLinkList(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1402,6 +1411,7 @@ class ISOXML_API LinkList {
  public:
   LinkList();
   LinkList(LinkList const& other);
+  /// Leaves `other` behind like a new object.
   LinkList(LinkList&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   LinkList(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1539,6 +1549,7 @@ class ISOXML_API InnerLinkGroup {
 
   InnerLinkGroup();
   InnerLinkGroup(InnerLinkGroup const& other);
+  /// Leaves `other` behind like a new object.
   InnerLinkGroup(InnerLinkGroup&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerLinkGroup(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1598,6 +1609,7 @@ class ISOXML_API LinkGroup {
  public:
   LinkGroup();
   LinkGroup(LinkGroup const& other);
+  /// Leaves `other` behind like a new object.
   LinkGroup(LinkGroup&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   LinkGroup(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -1709,6 +1721,7 @@ class ISOXML_API Link {
  public:
   Link();
   Link(Link const& other);
+  /// Leaves `other` behind like a new object.
   Link(Link&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Link(lmx::xmlReader& reader, lmx::elmx_error* error);

@@ -10,43 +10,44 @@ using namespace binding;
 
 namespace {
 
-// Each is compiled when a text first asks for it.
-lmx::c_regex const pattern_0("((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e]))){7}(([0-9]|[A-F]|[a-f])([0-9]|[A-F]|[a-f]))*");
-lmx::c_regex const pattern_1("((([0-9]|[a-e]|[A-E])([0-9]|[a-f]|[A-F]))|((F|f)([0-9]|[a-e]|[A-E]))){7}(([0-9]|[a-f]|[A-F])([0-9]|[a-f]|[A-F]))*");
-lmx::c_regex const pattern_2("((BSN|CCT|CCG|CLD|CTP|CPC|CTR|DVC|FRM|GGP|GPN|OTQ|PFD|PDT|PGP|PLN|TSK|VPN|WKR)(|-)([0-9])+)|(([0-9A-Z]){1,10}\\.([0-9A-Z.]){1,10})");
-lmx::c_regex const pattern_3("(BSN|BSN-)([0-9])+");
-lmx::c_regex const pattern_4("(BSN|CCG|CCT|CLD|CPC|CTP|CTR|DVC|FRM|OTQ|PDT|PFD|PGP|TSK|VPN|WKR)[0-9][0-9][0-9][0-9][0-9]");
-lmx::c_regex const pattern_5("(CCG|CCG-)([0-9])+");
-lmx::c_regex const pattern_6("(CCL|CCL-)([0-9])+");
-lmx::c_regex const pattern_7("(CCT|CCT-)([0-9])+");
-lmx::c_regex const pattern_8("(CLD|CLD-)([0-9])+");
-lmx::c_regex const pattern_9("(CPC|CPC-)([0-9])+");
-lmx::c_regex const pattern_10("(CTP|CTP-)([0-9])+");
-lmx::c_regex const pattern_11("(CTR|CTR-)([0-9])+");
-lmx::c_regex const pattern_12("(CVT|CVT-)([0-9])+");
-lmx::c_regex const pattern_13("(DET|DET-)([0-9])+");
-lmx::c_regex const pattern_14("(DVC|DVC-)([0-9])+");
-lmx::c_regex const pattern_15("(FRM|FRM-)([0-9])+");
-lmx::c_regex const pattern_16("(F|f){2}((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e])))*");
-lmx::c_regex const pattern_17("(GGP|GGP-)([0-9])+");
-lmx::c_regex const pattern_18("(GPN|GPN-)([0-9])+");
-lmx::c_regex const pattern_19("(LGP|LGP-)([0-9])+");
-lmx::c_regex const pattern_20("(LSG|LSG-)([0-9])+");
-lmx::c_regex const pattern_21("(OTQ|OTQ-)([0-9])+");
-lmx::c_regex const pattern_22("(PDT|PDT-)([0-9])+");
-lmx::c_regex const pattern_23("(PFD|PFD-)([0-9])+");
-lmx::c_regex const pattern_24("(PGP|PGP-)([0-9])+");
-lmx::c_regex const pattern_25("(PLN|PLN-)([0-9])+");
-lmx::c_regex const pattern_26("(PNT|PNT-)([0-9])+");
-lmx::c_regex const pattern_27("(TSK|TSK-)([0-9])+");
-lmx::c_regex const pattern_28("(VPN|VPN-)([0-9])+");
-lmx::c_regex const pattern_29("(WKR|WKR-)([0-9])+");
-lmx::c_regex const pattern_30("([0-9]|[A-Z]){8}.([0-9]|[A-Z]){3}");
-lmx::c_regex const pattern_31("GRD[0-9][0-9][0-9][0-9][0-9]");
-lmx::c_regex const pattern_32("PNT([0-9]){5}");
-lmx::c_regex const pattern_33("TLG[0-9][0-9][0-9][0-9][0-9]");
-lmx::c_regex const pattern_34("[a-fA-F0-9]{8}-[a-fA-F0-9]{4}-[a-fA-F0-9]{4}-[a-fA-F0-9]{4}-[a-fA-F0-9]{12}");
-lmx::c_regex const pattern_35("boolean|string|datetime|integer|decimal|list");
+// Each is made and compiled when a text first asks for it: memory that fails is the reader's to report,
+// and while the library is loaded nobody could. The bounds below are short enough to need none.
+lmx::c_regex const& pattern_0() { static lmx::c_regex const pattern("((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e]))){7}(([0-9]|[A-F]|[a-f])([0-9]|[A-F]|[a-f]))*"); return pattern; }
+lmx::c_regex const& pattern_1() { static lmx::c_regex const pattern("((([0-9]|[a-e]|[A-E])([0-9]|[a-f]|[A-F]))|((F|f)([0-9]|[a-e]|[A-E]))){7}(([0-9]|[a-f]|[A-F])([0-9]|[a-f]|[A-F]))*"); return pattern; }
+lmx::c_regex const& pattern_2() { static lmx::c_regex const pattern("((BSN|CCT|CCG|CLD|CTP|CPC|CTR|DVC|FRM|GGP|GPN|OTQ|PFD|PDT|PGP|PLN|TSK|VPN|WKR)(|-)([0-9])+)|(([0-9A-Z]){1,10}\\.([0-9A-Z.]){1,10})"); return pattern; }
+lmx::c_regex const& pattern_3() { static lmx::c_regex const pattern("(BSN|BSN-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_4() { static lmx::c_regex const pattern("(BSN|CCG|CCT|CLD|CPC|CTP|CTR|DVC|FRM|OTQ|PDT|PFD|PGP|TSK|VPN|WKR)[0-9][0-9][0-9][0-9][0-9]"); return pattern; }
+lmx::c_regex const& pattern_5() { static lmx::c_regex const pattern("(CCG|CCG-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_6() { static lmx::c_regex const pattern("(CCL|CCL-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_7() { static lmx::c_regex const pattern("(CCT|CCT-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_8() { static lmx::c_regex const pattern("(CLD|CLD-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_9() { static lmx::c_regex const pattern("(CPC|CPC-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_10() { static lmx::c_regex const pattern("(CTP|CTP-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_11() { static lmx::c_regex const pattern("(CTR|CTR-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_12() { static lmx::c_regex const pattern("(CVT|CVT-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_13() { static lmx::c_regex const pattern("(DET|DET-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_14() { static lmx::c_regex const pattern("(DVC|DVC-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_15() { static lmx::c_regex const pattern("(FRM|FRM-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_16() { static lmx::c_regex const pattern("(F|f){2}((([0-9]|[A-E]|[a-e])([0-9]|[A-F]|[a-f]))|((F|f)([0-9]|[A-E]|[a-e])))*"); return pattern; }
+lmx::c_regex const& pattern_17() { static lmx::c_regex const pattern("(GGP|GGP-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_18() { static lmx::c_regex const pattern("(GPN|GPN-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_19() { static lmx::c_regex const pattern("(LGP|LGP-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_20() { static lmx::c_regex const pattern("(LSG|LSG-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_21() { static lmx::c_regex const pattern("(OTQ|OTQ-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_22() { static lmx::c_regex const pattern("(PDT|PDT-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_23() { static lmx::c_regex const pattern("(PFD|PFD-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_24() { static lmx::c_regex const pattern("(PGP|PGP-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_25() { static lmx::c_regex const pattern("(PLN|PLN-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_26() { static lmx::c_regex const pattern("(PNT|PNT-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_27() { static lmx::c_regex const pattern("(TSK|TSK-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_28() { static lmx::c_regex const pattern("(VPN|VPN-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_29() { static lmx::c_regex const pattern("(WKR|WKR-)([0-9])+"); return pattern; }
+lmx::c_regex const& pattern_30() { static lmx::c_regex const pattern("([0-9]|[A-Z]){8}.([0-9]|[A-Z]){3}"); return pattern; }
+lmx::c_regex const& pattern_31() { static lmx::c_regex const pattern("GRD[0-9][0-9][0-9][0-9][0-9]"); return pattern; }
+lmx::c_regex const& pattern_32() { static lmx::c_regex const pattern("PNT([0-9]){5}"); return pattern; }
+lmx::c_regex const& pattern_33() { static lmx::c_regex const pattern("TLG[0-9][0-9][0-9][0-9][0-9]"); return pattern; }
+lmx::c_regex const& pattern_34() { static lmx::c_regex const pattern("[a-fA-F0-9]{8}-[a-fA-F0-9]{4}-[a-fA-F0-9]{4}-[a-fA-F0-9]{4}-[a-fA-F0-9]{12}"); return pattern; }
+lmx::c_regex const& pattern_35() { static lmx::c_regex const pattern("boolean|string|datetime|integer|decimal|list"); return pattern; }
 
 lmx::c_big_int const bound_minus_2147483648("-2147483648");
 lmx::c_big_int const bound_minus_2147483647("-2147483647");

@@ -87,6 +87,7 @@ def declare_life(name):
     return [
         f"  {name}();",
         f"  {name}({name} const& other);",
+        f"  /// Leaves `other` behind like a new object.",
         f"  {name}({name}&& other) noexcept;",
         f"  /// Reads itself from `reader`; `*error` is the result.",
         f"  {name}(lmx::xmlReader& reader, lmx::elmx_error* error);",
@@ -265,20 +266,37 @@ def declare_element(element):
 
 # ---- Definitions ----
 
-def define_life(name, init, read):
+def define_life(name, init, read, moves):
     return [
         f"{name}::{name}() {{ init(); }}",
         f"{name}::{name}({name} const& other) = default;",
-        f"{name}::{name}({name}&& other) noexcept = default;",
+        moves[0],
         f"{name}::{name}(lmx::xmlReader& reader, lmx::elmx_error* error) {{ init(); {read} }}",
         f"{name}* {name}::clone() const {{ return new {name}(*this); }}",
         f"{name}::~{name}() = default;",
         f"{name}& {name}::operator=({name} const& other) {{ {name} copy(other); swap(copy); return *this; }}",
-        f"{name}& {name}::operator=({name}&& other) noexcept = default;",
-        f"void {name}::swap({name}& other) noexcept {{ std::swap(*this, other); }}",
+        *moves[1:],
         f"void {name}::reset() {{ {name} empty; swap(empty); }}",
         f"void {name}::init() {{{init}}}",
     ]
+
+
+def define_element_life(name):
+    """The fields themselves leave new ones behind when they are moved from."""
+    return define_life(name, "", READ_WHOLE, [
+        f"{name}::{name}({name}&& other) noexcept = default;",
+        f"{name}& {name}::operator=({name}&& other) noexcept = default;",
+        f"void {name}::swap({name}& other) noexcept {{ std::swap(*this, other); }}",
+    ])
+
+
+def define_choice_life(name, read):
+    """`chosen` is a plain number, which a move has to reset."""
+    return define_life(name, " chosen = NothingChosen; ", read, [
+        f"{name}::{name}({name}&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {{}}",
+        f"{name}& {name}::operator=({name}&& other) noexcept {{ {name} taken(std::move(other)); swap(taken); return *this; }}",
+        f"void {name}::swap({name}& other) noexcept {{ std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }}",
+    ])
 
 
 READ_WHOLE = "*error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(reader);"
@@ -308,7 +326,7 @@ def alternative_event(row):
     return row.element.usual_alternative if row.name == row.element.name else row.name
 
 
-def define_alternative(wrapper, row):
+def define_alternative(wrapper, row, index_limit=None):
     name, class_name = row.name, row.element.name
     chosen = f"{name}Chosen"
     contract = f'{{is_chosen(chosen, m_held, {chosen}), "chosen == {chosen}"}}'
@@ -325,7 +343,7 @@ def define_alternative(wrapper, row):
         return lines
     run = f"selected_run<{class_name}>(chosen, m_held, {chosen})"
     index_text = quoted(f"index < u.m{name}->size()")
-    limit = f"LMX_ASSERT(index < {row.run_limit}); " if row.run_limit else ""
+    limit = f"LMX_ASSERT(index < {index_limit}); " if index_limit else ""
     return [
         f"void {wrapper}::Select{name}() {{ {run}; }}",
         f"{class_name} const& {wrapper}::Get{name}(std::size_t index) const {{ {limit}return run_at<{class_name}>(m_held, {contract}, index, {index_text}); }}",
@@ -370,7 +388,7 @@ def define_wrapper(element):
     rows = element.alternatives
     tag = tag_literal(element)
     mandatory = element.children == "at_least_one"
-    lines = define_life(name, " chosen = NothingChosen; ", READ_WRAPPER) + [""]
+    lines = define_choice_life(name, READ_WRAPPER) + [""]
     lines += event_map(name, "elem", alternative_events(rows))
     lines += define_choice_checks(name, rows, "true")
     lines += [f"bool {name}::IsMember(lmx::xmlReader& reader) {{ return is_member(reader, elem_event_map); }}",
@@ -394,7 +412,9 @@ def define_wrapper(element):
         lines.append("  return true;")
     lines += ["}"] + define_choice_marshal(name) + [""]
     for row in rows:
-        lines += define_alternative(name, row) + [""]
+        # Where wrappers repeat, the limit of a run is where reading begins the next one, and bounds no host.
+        index_limit = row.run_limit if element.children == "at_most_one" else None
+        lines += define_alternative(name, row, index_limit) + [""]
     return lines
 
 
@@ -560,7 +580,7 @@ def define_element(element):
     lines = [f"// ---- {name} ----", ""]
     if element.alternatives:
         lines += define_wrapper(element)
-    lines += define_life(name, "", READ_WHOLE) + [""]
+    lines += define_element_life(name) + [""]
     lines += event_map(name, "attr", [(value.xml, attribute_event(element, value)) for value in element.attributes])
     tags = child_tags(element)
     lines += event_map(name, "elem", tags)
@@ -660,7 +680,7 @@ def root_source(schema):
     lines = banner("schema/root.toml") + includes(["isoxmllib/root.h"]) + ["", "#include <memory>", "#include <utility>", ""]
     lines += includes(["isoxmllib/engine.h", "isoxmllib/events.h"] + [f"isoxmllib/{group}.h" for group in sorted(groups)])
     lines += ["", "using namespace binding;", ""]
-    lines += define_life("Root", " chosen = NothingChosen; ", READ_ROOT) + [""]
+    lines += define_choice_life("Root", READ_ROOT) + [""]
     lines += event_map("Root", "elem", [(row.element.tag, f"elem_{row.element.usual_alternative}") for row in rows])
     lines += known_elements("Root", [row.element.tag for row in rows])
     lines += define_choice_checks("Root", rows, 'check_occurs(tracker, chosen != NothingChosen, "<choice not set>", __LINE__)')
@@ -761,8 +781,10 @@ def validators_source(schema):
     lines = banner("schema/rules.toml") + includes(["isoxmllib/validators.h"]) + [""] + includes(["isoxmllib/rules.h", "isoxmllib/specs.h"])
     lines += ["", "using namespace binding;", "", "namespace {", ""]
     if patterns:
-        lines += ["// Each is compiled when a text first asks for it."]
-        lines += [f"lmx::c_regex const pattern_{index}({quoted(pattern)});" for pattern, index in patterns.items()] + [""]
+        lines += ["// Each is made and compiled when a text first asks for it: memory that fails is the reader's to report,",
+                  "// and while the library is loaded nobody could. The bounds below are short enough to need none."]
+        lines += [f"lmx::c_regex const& pattern_{index}() {{ static lmx::c_regex const pattern({quoted(pattern)}); return pattern; }}"
+                  for pattern, index in patterns.items()] + [""]
     if bounds:
         lines += [f"lmx::c_big_int const {bound_name(bound)}({quoted(bound)});" for bound in bounds] + [""]
     ranges = sorted({(value.cpp_type, bound) for _, value in values if value.type == "decimal" and value.rule.low is not None

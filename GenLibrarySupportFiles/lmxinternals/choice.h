@@ -69,12 +69,19 @@ class ct_choice {
   ct_choice() = default;
   ct_choice(ct_choice const& other)
       : m_alternative(other.m_alternative), mp_held(other.mp_held ? other.mp_held->clone() : nullptr) {}
-  ct_choice(ct_choice&&) noexcept = default;
+  /// Leaves nothing behind.
+  ct_choice(ct_choice&& other) noexcept
+      : m_alternative(std::exchange(other.m_alternative, -1)), mp_held(std::move(other.mp_held)) {}
   ct_choice& operator=(ct_choice const& other) {
     ct_choice copy(other);
     return *this = std::move(copy);
   }
-  ct_choice& operator=(ct_choice&&) noexcept = default;
+  ct_choice& operator=(ct_choice&& other) noexcept {
+    ct_choice taken(std::move(other));
+    std::swap(m_alternative, taken.m_alternative);
+    mp_held.swap(taken.mp_held);
+    return *this;
+  }
 
   void release() {
     mp_held.reset();

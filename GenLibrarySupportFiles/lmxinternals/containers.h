@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <string>
@@ -39,6 +40,20 @@ namespace detail {
 template <class T, class C>
 class simple_field {
  public:
+  simple_field() = default;
+  simple_field(simple_field const&) = default;
+  /// Leaves a field behind that was never set.
+  simple_field(simple_field&& other) noexcept
+      : m_holder(std::exchange(other.m_holder, C())), m_is_set(std::exchange(other.m_is_set, false)) {}
+  simple_field& operator=(simple_field const&) = default;
+  simple_field& operator=(simple_field&& other) noexcept {
+    simple_field taken(std::move(other));
+    std::swap(m_holder, taken.m_holder);
+    std::swap(m_is_set, taken.m_is_set);
+    return *this;
+  }
+  ~simple_field() = default;
+
   /// Stores the value and sets the flag; nothing is validated. Returns 0.
   elmx_error set(T const& value) {
     m_holder.ref_value() = value;
@@ -118,13 +133,18 @@ class ct_non_pod_container {
     m_values.reserve(other.size());
     for (owner const& value : other.m_values) m_values.push_back(std::make_unique<T>(*value));
   }
+  /// Leaves an empty list behind.
   ct_non_pod_container(ct_non_pod_container&&) noexcept = default;
   ct_non_pod_container& operator=(ct_non_pod_container const& other) {
     ct_non_pod_container copy(other);
     m_values.swap(copy.m_values);
     return *this;
   }
-  ct_non_pod_container& operator=(ct_non_pod_container&&) noexcept = default;
+  ct_non_pod_container& operator=(ct_non_pod_container&& other) noexcept {
+    ct_non_pod_container taken(std::move(other));
+    m_values.swap(taken.m_values);
+    return *this;
+  }
 
   std::size_t size() const { return m_values.size(); }
   bool empty() const { return m_values.empty(); }
@@ -200,8 +220,9 @@ class ct_complex_optional {
 
 namespace detail {
 
-/// Storage for objects of one type that are made one after the other and mostly go together, in blocks of a
-/// growing number of places. What stands in them is the owner's to make and to destroy.
+/// Objects of one type that are made one after the other and mostly go together, in blocks of a growing
+/// number of places. An object stays where it was made; its place serves another one when it is gone. Objects
+/// that are still there at the end, or when all is cleared, are the owner's to destroy before.
 template <class T>
 class block_storage {
  public:
@@ -213,12 +234,20 @@ class block_storage {
   }
   ~block_storage() { clear(); }
 
-  /// A place for an object, the same one until it is taken.
-  void* free_place() {
-    if (mp_last == nullptr || mp_last->used == mp_last->capacity) add_block();
-    return reinterpret_cast<unsigned char*>(mp_last) + header_size + mp_last->used * sizeof(T);
+  T* make() {
+    if (mp_last == nullptr || mp_last->used == mp_last->capacity) {
+      if (mp_last != nullptr && mp_last->p_freed != nullptr) return make_in_freed_place();
+      add_block();
+    }
+    T* const made = ::new (place(mp_last->used)) T();
+    ++mp_last->used;
+    return made;
   }
-  void take_place() { ++mp_last->used; }
+  /// Takes back the place of an object that is gone.
+  void free_place(void* place_of_it) noexcept {
+    std::memcpy(place_of_it, &mp_last->p_freed, sizeof(void*));
+    mp_last->p_freed = place_of_it;
+  }
   void clear() {
     while (mp_last != nullptr) ::operator delete(std::exchange(mp_last, mp_last->p_previous));
   }
@@ -226,19 +255,38 @@ class block_storage {
  private:
   struct block {
     block* p_previous;
-    std::size_t capacity;
-    std::size_t used;
+    void* p_freed;  // of the last block: the first free place that was used before; it begins with the next
+    std::uint32_t capacity;
+    std::uint32_t used;
   };
 
-  static constexpr std::size_t most_places = 64;
+  static constexpr std::uint32_t most_places = 64;
   static constexpr std::size_t header_size = (sizeof(block) + alignof(T) - 1) / alignof(T) * alignof(T);
+  static constexpr std::size_t place_size = sizeof(T) < sizeof(void*) ? sizeof(void*) : sizeof(T);
 
+  void* place(std::size_t index) {
+    return reinterpret_cast<unsigned char*>(mp_last) + header_size + index * place_size;
+  }
+
+  // Only when there is no other free place, so there is no list of them to hand on.
   void add_block() {
-    static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__, "");
-    std::size_t const capacity = mp_last == nullptr                ? 1
-                                 : mp_last->capacity < most_places ? 2 * mp_last->capacity
-                                                                   : most_places;
-    mp_last = ::new (::operator new(header_size + capacity * sizeof(T))) block{mp_last, capacity, 0};
+    static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__ && place_size % alignof(T) == 0, "");
+    std::uint32_t const capacity = mp_last == nullptr                ? 1
+                                   : mp_last->capacity < most_places ? 2 * mp_last->capacity
+                                                                     : most_places;
+    mp_last =
+        ::new (::operator new(header_size + capacity * place_size)) block{mp_last, nullptr, capacity, 0};
+  }
+
+  T* make_in_freed_place() {
+    void* const freed = mp_last->p_freed;
+    std::memcpy(&mp_last->p_freed, freed, sizeof(void*));
+    try {
+      return ::new (freed) T();
+    } catch (...) {
+      free_place(freed);
+      throw;
+    }
   }
 
   block* mp_last = nullptr;
@@ -253,8 +301,10 @@ class listed_child {
     static_assert(alignof(T) > 1, "the lowest bit of the address is free");
   }
   T& get() const { return *reinterpret_cast<T*>(m_bits & ~std::uintptr_t{1}); }
+  bool is_in_block() const { return (m_bits & 1) != 0; }
+  /// Ends its life. A place in a block stays.
   void destroy() const {
-    if ((m_bits & 1) != 0) {
+    if (is_in_block()) {
       get().~T();
     } else {
       delete &get();
@@ -310,8 +360,7 @@ class ct_complex_multi {
   }
   T& append() {
     p_make_room();
-    T* const child = ::new (m_blocks.free_place()) T();
-    m_blocks.take_place();
+    T* const child = m_blocks.make();
     m_values.emplace_back(child, true);
     return *child;
   }
@@ -330,12 +379,12 @@ class ct_complex_multi {
   void assign(std::size_t index, T const& value) { assign(index, std::unique_ptr<T>(value.clone())); }
   void assign(std::size_t index, std::unique_ptr<T> value) {
     get_or_append(index);
-    m_values[index].destroy();
+    p_remove(m_values[index]);
     m_values[index] = {value.release(), false};
   }
   void erase(std::size_t index_in) {
     LMX_ASSERT(index_in < m_values.size());
-    m_values[index_in].destroy();
+    p_remove(m_values[index_in]);
     m_values.erase(p_at(index_in));
   }
   void clear() {
@@ -358,7 +407,11 @@ class ct_complex_multi {
     if (size == m_values.capacity())
       m_values.reserve(size == 0 ? usual_start : size < few ? 3 * size : 2 * size);
   }
-  void p_destroy_all() {
+  void p_remove(detail::listed_child<T> const& child) {
+    child.destroy();
+    if (child.is_in_block()) m_blocks.free_place(&child.get());
+  }
+  void p_destroy_all() {  // with the blocks to follow
     for (detail::listed_child<T> const& child : m_values) child.destroy();
   }
 

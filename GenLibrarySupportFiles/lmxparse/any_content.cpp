@@ -8,6 +8,7 @@
 
 namespace lmx {
 
+// Both fit into the string itself: nothing is allocated while the library is loaded.
 const std::string c_xml::k_non_namespace;
 const std::string c_xml::k_namespace_not_found(" ");
 

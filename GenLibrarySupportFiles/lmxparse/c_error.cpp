@@ -6,7 +6,7 @@
 
 namespace lmx {
 
-c_check_exception global_check_exception;
+c_check_exception global_check_exception;  // allocates nothing: its path is empty
 
 c_error::~c_error() = default;
 
@@ -78,9 +78,10 @@ std::ostream& s_debug_error::to_stream(std::ostream& stream) const {
 }
 
 std::string s_debug_error::to_string() const {
+  char const* const code_file = mp_code_file != nullptr ? mp_code_file : s_debug_error().mp_code_file;
   std::string text = std::string("Error: ") + get_error_description(m_code) + '\n';
   if (m_code == ELMX_OK) return text;
-  text += "Item: " + m_item + "\nProgram file: " + mp_code_file +
+  text += "Item: " + m_item + "\nProgram file: " + code_file +
           "\nProgram line: " + std::to_string(m_code_line) + '\n';
   if (m_xml_line != -1) text += "XML line: " + std::to_string(m_xml_line) + '\n';
   return text;

@@ -88,12 +88,12 @@ class ISOXML_API c_getter_error_binder {
 struct ISOXML_API s_debug_error {
   elmx_error m_code = ELMX_OK;
   std::string m_item;                      ///< The element or attribute concerned; "@A" is attribute A.
-  char const* mp_code_file = "(not set)";  ///< Program file; constant text, never null.
+  char const* mp_code_file = "(not set)";  ///< Program file; constant text. Null is shown as it is here.
   int m_code_line = -1;                    ///< Program line.
   int m_xml_line = -1;                     ///< Document line, -1 when not known.
 
   void clear();
-  /// `file` is kept by pointer and must be constant text.
+  /// `file` is kept by pointer and must be constant text or null.
   void set(elmx_error code, std::string const& item, char const* file, int line, int xml_line);
 
   /// Writes "Error: ", and unless the code is 0 "Item: ", "Program file: ", "Program line: " and, when

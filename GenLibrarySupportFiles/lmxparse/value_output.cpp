@@ -157,7 +157,7 @@ std::ostream& o_to_v(std::ostream& out, double const& value) { return detail::pu
 std::ostream& o_to_v(std::ostream& out, c_datetime const& value) { return out << value; }
 
 std::ostream& o_to_v(std::ostream& out, velmo::lmx::high_precision_c_decimal const& value) {
-  return out << static_cast<c_decimal const&>(value);
+  return detail::put_through(out, value);
 }
 
 }  // namespace lmx

@@ -31,7 +31,9 @@ std::size_t count_digits(char const* text) noexcept {
 
 }  // namespace
 
-c_big_int::c_big_int(std::int32_t value) { p_init(std::to_string(value).c_str()); }
+c_big_int::c_big_int(std::int32_t value) : m_text(std::to_string(value)) {}
+c_big_int::c_big_int(long long value) : m_text(std::to_string(value)) {}
+c_big_int::c_big_int(unsigned long long value) : m_text(std::to_string(value)) {}
 
 void c_big_int::p_init(char const* text) {
   if (text == nullptr) text = "";
@@ -107,8 +109,6 @@ bool c_big_int::p_is_greater(char const* text) const noexcept {
   return is_negative ? order < 0 : order > 0;
 }
 
-std::ostream& operator<<(std::ostream& os, c_big_int const& value) {
-  return os.write(value.m_text.data(), static_cast<std::streamsize>(value.m_text.size()));
-}
+std::ostream& operator<<(std::ostream& os, c_big_int const& value) { return os << value.m_text; }
 
 }  // namespace lmx

@@ -33,6 +33,11 @@ class ISOXML_API c_big_int {
   c_big_int(std::int32_t value);
   /// Cut to 32 bits, on every platform.
   c_big_int(long value) : c_big_int(static_cast<std::int32_t>(value)) {}
+  // Every other integer is taken as it is.
+  c_big_int(unsigned int value) : c_big_int(static_cast<unsigned long long>(value)) {}
+  c_big_int(unsigned long value) : c_big_int(static_cast<unsigned long long>(value)) {}
+  c_big_int(long long value);
+  c_big_int(unsigned long long value);
   c_big_int(c_big_int const&) = default;
   /// Leaves zero behind.
   c_big_int(c_big_int&& other) noexcept : c_big_int() { swap(other); }
@@ -46,6 +51,10 @@ class ISOXML_API c_big_int {
   c_big_int& operator=(std::string const& text) { return p_take(c_big_int(text)); }
   c_big_int& operator=(std::int32_t value) { return p_take(c_big_int(value)); }
   c_big_int& operator=(long value) { return p_take(c_big_int(value)); }
+  c_big_int& operator=(unsigned int value) { return p_take(c_big_int(value)); }
+  c_big_int& operator=(unsigned long value) { return p_take(c_big_int(value)); }
+  c_big_int& operator=(long long value) { return p_take(c_big_int(value)); }
+  c_big_int& operator=(unsigned long long value) { return p_take(c_big_int(value)); }
 
   /// Exchanges the two values.
   void swap(c_big_int& other) noexcept { m_text.swap(other.m_text); }
@@ -120,7 +129,8 @@ class ISOXML_API c_big_int {
   std::string m_text;  ///< A "-" for a negative number, then its digits without leading zeros.
 };
 
-/// Writes the value's text as it is: width, fill, flags and locale of the stream have no say.
+/// Inserts the value's text, as inserting a string does: padded to the stream's width, which is then 0. No
+/// other flag and no locale has a say in it.
 ISOXML_API std::ostream& operator<<(std::ostream& os, c_big_int const& value);
 
 }  // namespace lmx

@@ -71,6 +71,9 @@ c_decimal::c_decimal(std::int32_t value, int scale) {
   m_text.assign(text);
 }
 
+c_decimal::c_decimal(long long value) { m_text.assign(std::to_string(value)); }
+c_decimal::c_decimal(unsigned long long value) { m_text.assign(std::to_string(value)); }
+
 c_decimal::c_decimal(double value, unsigned int digits) {
   p_init(print(value, static_cast<int>(std::min(digits, max_fraction_digits_of_double))).c_str(),
          point_or_locale);
@@ -228,10 +231,7 @@ double c_decimal::get_as_float() const noexcept {
   return parts.is_negative ? -value : value;
 }
 
-std::ostream& operator<<(std::ostream& os, c_decimal const& value) {
-  std::string_view const text = value.view();
-  return os.write(text.data(), static_cast<std::streamsize>(text.size()));
-}
+std::ostream& operator<<(std::ostream& os, c_decimal const& value) { return os << value.view(); }
 
 void detail::put(output_buffer& out, velmo::lmx::high_precision_c_decimal const& value) {
   out.append(value.view());

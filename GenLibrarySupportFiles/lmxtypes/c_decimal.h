@@ -49,6 +49,11 @@ class ISOXML_API c_decimal {
   c_decimal(std::int32_t value) : c_decimal(value, 0) {}
   /// `value` is cut to 32 bits, on every platform.
   c_decimal(long value) : c_decimal(value, 0) {}
+  // Every other integer is taken as it is.
+  c_decimal(unsigned int value) : c_decimal(static_cast<unsigned long long>(value)) {}
+  c_decimal(unsigned long value) : c_decimal(static_cast<unsigned long long>(value)) {}
+  c_decimal(long long value);
+  c_decimal(unsigned long long value);
   /// Rounded to six fraction digits, trailing zeros removed. What is not finite gives zero, with the sign.
   c_decimal(double value) : c_decimal(value, 6u) {}
   /// Rounded to `digits` fraction digits, at most 15; otherwise as above.
@@ -66,6 +71,10 @@ class ISOXML_API c_decimal {
   c_decimal& operator=(std::string const& text) { return p_take(c_decimal(text)); }
   c_decimal& operator=(std::int32_t value) { return p_take(c_decimal(value)); }
   c_decimal& operator=(long value) { return p_take(c_decimal(value)); }
+  c_decimal& operator=(unsigned int value) { return p_take(c_decimal(value)); }
+  c_decimal& operator=(unsigned long value) { return p_take(c_decimal(value)); }
+  c_decimal& operator=(long long value) { return p_take(c_decimal(value)); }
+  c_decimal& operator=(unsigned long long value) { return p_take(c_decimal(value)); }
   /// Rounded to 15 fraction digits, trailing zeros removed: construction keeps six.
   c_decimal& operator=(double value) { return p_take(c_decimal(value, 15u)); }
 
@@ -142,8 +151,9 @@ class ISOXML_API c_decimal {
   detail::compact_text m_text;  // as it is written
 };
 
-/// Writes "-" if the value is negative, the integral digits, and "." with the fraction digits if there are
-/// any. Nothing is rounded or removed: width, fill, precision and locale of the stream have no say.
+/// Inserts "-" if the value is negative, the integral digits, and "." with the fraction digits if there are
+/// any, as inserting a string does: padded to the stream's width, which is then 0. Nothing is rounded or
+/// removed: no other flag, no precision and no locale has a say in it.
 ISOXML_API std::ostream& operator<<(std::ostream& os, c_decimal const& value);
 
 }  // namespace lmx

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -105,15 +106,15 @@ void append_real(std::string& text, double value) {
   text.append(digits, end);
 }
 
-// The smallest values would get an exponent, which no type here allows: anything below 0.001 is printed
-// with 1 added, and the 1 replaced. Zero goes the same way, so that a negative zero has no sign.
+// The smallest values would get an exponent, which no type here allows: anything below 0.001 but zero is
+// printed with 1 added, and the 1 replaced. A negative zero, which no text gives, keeps its sign.
 void append_seconds(std::string& text, double secs) {
   constexpr double most_usual = 60.0;
-  if (secs >= 0.0 && secs <= most_usual && secs == static_cast<int>(secs)) {
+  if (!std::signbit(secs) && secs <= most_usual && secs == static_cast<int>(secs)) {
     return append_number(text, static_cast<int>(secs));  // the same text, sooner
   }
   constexpr double lowest_without_exponent = 0.001;
-  bool const is_small = secs < lowest_without_exponent;
+  bool const is_small = secs != 0.0 && secs < lowest_without_exponent;
   std::size_t const start = text.size();
   append_real(text, is_small ? secs + 1.0 : secs);
   if (is_small) text[start] = '0';

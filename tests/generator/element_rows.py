@@ -91,13 +91,31 @@ def choice_row(name, count):
             f"choice.chosen = chosen; return choice.marshal_child_elements(writer); }}}},")
 
 
+def macro(name, rows):
+    """`name(row)` stands for `row` applied to each row in turn."""
+    return [f"#define {name}(row) \\"] + [f"  row({', '.join(values)}) \\" for values in rows] + [""]
+
+
+def for_each_macros(schema):
+    """The classes by name: elements, the choices they hold, and the choices' alternatives."""
+    elements = schema.elements.values()
+    parents = [element for element in elements if element.alternatives]
+    choices = [(f"Inner{element.name}", element.alternatives) for element in parents] + [("Root", schema.root)]
+    alternatives = [(choice, row) for choice, rows in choices for row in rows]
+    return (macro("FOR_EACH_ELEMENT", [(element.name,) for element in elements])
+            + macro("FOR_EACH_CHILD_LIST", [(element.name, f"Inner{element.name}") for element in parents if element.children != "at_most_one"])
+            + macro("FOR_EACH_ONLY_CHILD", [(element.name, f"Inner{element.name}") for element in parents if element.children == "at_most_one"])
+            + macro("FOR_EACH_RUN", [(choice, row.name) for choice, row in alternatives if row.held == "run"])
+            + macro("FOR_EACH_SINGLE", [(choice, row.name) for choice, row in alternatives if row.held == "one"]))
+
+
 def main():
     schema = model.load()
     elements = schema.elements.values()
     lines = ["inline const std::vector<ElementRow> element_rows = {"] + [element_row(element) for element in elements] + ["};"]
     lines += ["inline const std::vector<ChoiceRow> choice_rows = {"]
     lines += [choice_row(f"Inner{element.name}", len(element.alternatives)) for element in elements if element.alternatives]
-    lines += [choice_row("Root", len(schema.root)), "};"]
+    lines += [choice_row("Root", len(schema.root)), "};"] + for_each_macros(schema)
     Path(sys.argv[1]).write_text("\n".join(lines) + "\n", encoding="utf-8")
 
 

@@ -9,10 +9,12 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/memory_read.h"
 #include "support/recording_reader.h"
 #include "support/writing.h"
 
@@ -357,6 +359,194 @@ TEST(NameTables, TellABoundaryInGuidanceFromAnyOtherPolygon) {
     EXPECT_EQ(event == expected.end() ? 0 : event->second, event_of(row.of_wrapper, "PLN"));
   }
   EXPECT_EQ(134, event_of(Root::elem_event_map, "PLN"));
+}
+
+// ---- Moved-from objects ----
+
+// Nothing that it shows tells it from a new one.
+template <class X>
+void expect_new(X const& object, char const* tag) {
+  const X fresh;
+  EXPECT_EQ(written(fresh, tag), written(object, tag));
+  EXPECT_EQ(fresh.IsOccursOk(), object.IsOccursOk());
+  EXPECT_EQ(fresh.Check(), object.Check());
+}
+
+template <class X>
+int read_again(X& object, ElementRow const& row) {
+  MemoryRead document(row.filled);
+  lmx::xmlReader reader(document);
+  return object.unmarshal(reader);
+}
+
+template <class X>
+void check_moved(ElementRow const& row) {
+  SCOPED_TRACE(row.tag);
+  X object;
+  ASSERT_EQ(0, read_again(object, row));
+  X target(std::move(object));
+  // NOLINTBEGIN(bugprone-use-after-move): promised
+  expect_new(object, row.tag);
+  const X copy(object);
+  expect_new(copy, row.tag);
+  X assigned;
+  ASSERT_EQ(0, read_again(assigned, row));
+  assigned = object;
+  expect_new(assigned, row.tag);
+  EXPECT_EQ(row.filled, written(target, row.tag));
+  object = std::move(target);
+  EXPECT_EQ(row.filled, written(object, row.tag));
+  expect_new(target, row.tag);
+  ASSERT_EQ(0, read_again(target, row));
+  EXPECT_EQ(row.filled, written(target, row.tag));
+  // NOLINTEND(bugprone-use-after-move)
+}
+
+TEST(MovedFrom, ElementsAreLikeNewOnes) {
+  std::size_t at = 0;
+#define CHECK(X) check_moved<X>(element_rows.at(at++));
+  FOR_EACH_ELEMENT(CHECK)
+#undef CHECK
+  EXPECT_EQ(element_rows.size(), at);
+}
+
+TEST(MovedFrom, RootsAreLikeNewOnes) {
+  for (ElementRow const& row : element_rows) check_moved<Root>(row);
+}
+
+// Both what it was moved from and a copy of that.
+template <class Choice>
+void expect_nothing_chosen(Choice const& choice) {
+  EXPECT_EQ(Choice::NothingChosen, choice.chosen);
+  expect_new(choice, nullptr);
+  const Choice copy(choice);
+  EXPECT_EQ(Choice::NothingChosen, copy.chosen);
+  expect_new(copy, nullptr);
+}
+
+// Takes a wrapper out of its filled parent, by construction and by assignment.
+template <class Choice>
+void check_moved_wrapper(Choice& filled, Choice const& same) {
+  const std::string before = written(same);
+  EXPECT_NE("", before);
+  Choice target(std::move(filled));
+  expect_nothing_chosen(filled);
+  EXPECT_EQ(before, written(target));
+  filled = std::move(target);
+  expect_nothing_chosen(target);
+  EXPECT_EQ(before, written(filled));
+}
+
+ElementRow const& row_of(char const* class_name) {
+  static const std::map<std::string, std::size_t> places = [] {
+    std::map<std::string, std::size_t> all;
+#define ADD(Class) all.emplace(#Class, all.size());
+    FOR_EACH_ELEMENT(ADD)
+#undef ADD
+    return all;
+  }();
+  return element_rows.at(places.at(class_name));
+}
+
+TEST(MovedFrom, WrappersAreLikeNewOnes) {
+#define CHECK_FIRST(X, Wrapper)                                            \
+  {                                                                        \
+    SCOPED_TRACE(#X);                                                      \
+    X object;                                                              \
+    ASSERT_EQ(0, read_again(object, row_of(#X)));                          \
+    for (std::size_t i = 0; i != object.Size##Wrapper(); ++i)              \
+      check_moved_wrapper(object.Get##Wrapper(i), object.Get##Wrapper(i)); \
+    EXPECT_EQ(row_of(#X).filled, written(object, row_of(#X).tag));         \
+  }
+  FOR_EACH_CHILD_LIST(CHECK_FIRST)
+#undef CHECK_FIRST
+#define CHECK_ONLY(X, Wrapper)                                         \
+  {                                                                    \
+    SCOPED_TRACE(#X);                                                  \
+    X object;                                                          \
+    ASSERT_EQ(0, read_again(object, row_of(#X)));                      \
+    check_moved_wrapper(object.Get##Wrapper(), object.Get##Wrapper()); \
+    EXPECT_EQ(row_of(#X).filled, written(object, row_of(#X).tag));     \
+  }
+  FOR_EACH_ONLY_CHILD(CHECK_ONLY)
+#undef CHECK_ONLY
+}
+
+// Each function on a wrapper of its own, from which a run was moved, and on a copy of that.
+template <class Choice, class Fill, class Use>
+void use_after_move(Fill fill, Use use) {
+  Choice choice;
+  fill(choice);
+  Choice target(std::move(choice));
+  Choice copy(choice);  // NOLINT(bugprone-use-after-move): promised
+  use(choice);
+  use(copy);
+  Choice assigned;
+  assigned = std::move(target);
+  use(target);  // NOLINT(bugprone-use-after-move): promised
+}
+
+TEST(MovedFrom, ChoicesTakeEveryRun){
+#define CHECK_RUN(Choice, Y)                                                               \
+  {                                                                                        \
+    SCOPED_TRACE(#Choice "." #Y);                                                          \
+    const auto fill = [](Choice& choice) { choice.Append##Y(); };                          \
+    use_after_move<Choice>(fill, [](Choice& choice) { EXPECT_EQ(0u, choice.Size##Y()); }); \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                      \
+      auto const& added = choice.Append##Y();                                              \
+      EXPECT_EQ(&added, &choice.Back##Y());                                                \
+    });                                                                                    \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                      \
+      choice.Get##Y(1);                                                                    \
+      EXPECT_EQ(2u, choice.Size##Y());                                                     \
+      EXPECT_EQ(Choice::Y##Chosen, choice.chosen);                                         \
+    });                                                                                    \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                      \
+      choice.Insert##Y(0);                                                                 \
+      choice.Delete##Y(0);                                                                 \
+      EXPECT_EQ(0u, choice.Size##Y());                                                     \
+    });                                                                                    \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                      \
+      choice.Assign##Y(0, choice.Get##Y(0));                                               \
+      EXPECT_EQ(1u, choice.Size##Y());                                                     \
+    });                                                                                    \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                      \
+      choice.Clear##Y();                                                                   \
+      EXPECT_EQ(0u, choice.Size##Y());                                                     \
+    });                                                                                    \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                      \
+      choice.Select##Y();                                                                  \
+      EXPECT_EQ(0u, choice.Size##Y());                                                     \
+    });                                                                                    \
+  }
+    FOR_EACH_RUN(CHECK_RUN)
+#undef CHECK_RUN
+}
+
+TEST(MovedFrom, ChoicesTakeEverySingleChild){
+#define CHECK_SINGLE(Choice, Y)                                                                          \
+  {                                                                                                      \
+    SCOPED_TRACE(#Choice "." #Y);                                                                        \
+    const auto fill = [](Choice& choice) { choice.Get##Y(); };                                           \
+    use_after_move<Choice>(fill, [](Choice& choice) { EXPECT_EQ(&choice.Get##Y(), &choice.Get##Y()); }); \
+    use_after_move<Choice>(fill, [](Choice& choice) {                                                    \
+      choice.Select##Y();                                                                                \
+      EXPECT_EQ(Choice::Y##Chosen, choice.chosen);                                                       \
+    });                                                                                                  \
+    use_after_move<Choice>(fill, [](Choice& choice) { choice.release_choice(); });                       \
+  }
+    FOR_EACH_SINGLE(CHECK_SINGLE)
+#undef CHECK_SINGLE
+}
+
+TEST(MovedFromDeathTest, ChoicesHoldNothing) {
+  InnerTask choice;
+  choice.AppendTime();
+  const InnerTask target(std::move(choice));
+  // NOLINTBEGIN(bugprone-use-after-move): promised
+  EXPECT_DEATH(std::as_const(choice).GetTime(0), "chosen == TimeChosen");
+  EXPECT_DEATH(choice.DeleteTime(0), "chosen == TimeChosen");
+  // NOLINTEND(bugprone-use-after-move)
 }
 
 }  // namespace

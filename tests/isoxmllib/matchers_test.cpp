@@ -5,8 +5,14 @@
 #include "isoxmllib/matchers.h"
 
 #include <gtest/gtest.h>
+#include <libxml/xmlerror.h>
+#include <libxml/xmlregexp.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <map>
+#include <new>
 #include <queue>
 #include <random>
 #include <set>
@@ -15,6 +21,10 @@
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxtypes/c_regex.h"
+#include "isoxmllib/isoxmllib.h"
+#include "support/failing_libxml2.h"
+#include "support/memory_read.h"
+#include "transfer/reader/xmlReader.h"
 
 namespace {
 
@@ -142,5 +152,86 @@ TEST_P(Matchers, MatchNothingBesidesPrintableCharacters) {
 
 INSTANTIATE_TEST_SUITE_P(Patterns, Matchers, testing::ValuesIn(binding::matchers),
                          [](auto const& row) { return "pattern_" + std::to_string(row.index); });
+
+// ---- Without memory ----
+
+std::string accepted_text(text_matcher const& matcher) {
+  for (auto const& [state, way] : ways(matcher)) {
+    if (matcher.accepting[state]) return way;
+  }
+  return {};
+}
+
+/// Whether the engine itself, in a process of its own, gets by without its `n`-th allocation: releases
+/// differ.
+bool engine_survives(std::string const& pattern, long n, bool for_ever) {
+  pid_t const child = fork();
+  if (child == 0) {
+    std::signal(SIGSEGV, SIG_DFL);
+    xmlSetStructuredErrorFunc(nullptr, [](void*, auto) {});
+    libxml2_memory::fail_at(n, for_ever);
+    xmlRegexpCompile(reinterpret_cast<xmlChar const*>(pattern.c_str()));
+    _exit(0);
+  }
+  int status = -1;
+  return child > 0 && waitpid(child, &status, 0) == child && status == 0;
+}
+
+TEST(Patterns, AreNotTakenForBadOnesWhenMemoryRunsOut) {
+  for (text_matcher const* const matcher : binding::matchers) {
+    std::string const text = accepted_text(*matcher);
+    ASSERT_TRUE(lmx::c_regex(matcher->pattern).is_match(text)) << matcher->pattern;
+    std::string const other = text + ' ';
+    bool const is_other_taken = lmx::c_regex(matcher->pattern).is_match(other);
+    for (bool const for_ever : {false, true}) {
+      bool has_failed = true;
+      long const step = for_ever ? 7 : 1;
+      for (long n = 1; has_failed; n += step) {
+        if (!engine_survives(matcher->pattern, n, for_ever)) continue;
+        SCOPED_TRACE(std::string(matcher->pattern) + ", allocation " + std::to_string(n));
+        lmx::c_regex const regex(matcher->pattern);
+        bool is_taken_or_out_of_memory = false;
+        testing::internal::CaptureStderr();
+        libxml2_memory::fail_at(n, for_ever);
+        try {
+          is_taken_or_out_of_memory = regex.is_match(text);
+        } catch (std::bad_alloc const&) {
+          is_taken_or_out_of_memory = true;
+        }
+        has_failed = libxml2_memory::stop_failing();
+        ASSERT_EQ("", testing::internal::GetCapturedStderr());
+        ASSERT_TRUE(is_taken_or_out_of_memory);
+        ASSERT_TRUE(regex.is_match(text)) << "the next call tries again";
+        ASSERT_EQ(is_other_taken, regex.is_match(other));
+      }
+    }
+  }
+}
+
+// The reference makes the engine decide, which then compiles its pattern.
+TEST(Patterns, DoNotRefuseAGoodDocumentAfterMemoryRanOut) {
+  ASSERT_TRUE(lmx::c_regex("a").is_match("a"));  // what is made once for all patterns
+  MemoryRead document("<TSK A='TSK&#49;' G='1'/>");
+  int failures = 0;
+  bool has_failed = true;
+  for (long n = 1; has_failed; ++n) {
+    if (!engine_survives("(TSK|TSK-)([0-9])+", n, false)) continue;
+    document.rewind();
+    lmx::xmlReader reader(document);
+    Root root;
+    int error = -1;
+    bool is_out_of_memory = false;
+    libxml2_memory::fail_at(n, false);
+    try {
+      error = root.unmarshal(reader);
+    } catch (std::bad_alloc const&) {
+      is_out_of_memory = true;
+    }
+    has_failed = libxml2_memory::stop_failing();
+    ASSERT_TRUE(is_out_of_memory || error == 0) << "allocation " << n;
+    if (is_out_of_memory) ++failures;
+  }
+  EXPECT_LT(5, failures);
+}
 
 }  // namespace

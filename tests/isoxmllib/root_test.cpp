@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -646,17 +647,32 @@ TEST(AccessorDeathTest, OfEachClassNamesItsOwnMember) {
   EXPECT_DEATH(std::as_const(content).GetTask(0), "index < u\\.mTask->size\\(\\)");
 }
 
-TEST(AccessorDeathTest, ARunOfTwoHasNoThird) {
-  InnerTime times;
+TEST(Accessors, AddChildrenWhereOthersWereDeleted) {
+  InnerTaskData data;
+  std::set<Task const*> places;
+  for (int i = 0; i != 1000; ++i) {
+    places.insert(&data.AppendTask());
+    data.DeleteTask(0);
+  }
+  EXPECT_EQ(1u, places.size());
+}
+
+TEST(AccessorDeathTest, ARunOfTwoHasNoThirdWhereThereIsOneRunOnly) {
   InnerAllocationStamp stamp;
-  times.GetPosition(1);
   stamp.GetPosition(1);
-  InnerTime one;
-  one.AppendPosition();
-  EXPECT_DEATH(times.GetPosition(2), "index < 2");
-  EXPECT_DEATH(std::as_const(times).GetPosition(2), "index < 2");
   EXPECT_DEATH(stamp.GetPosition(2), "index < 2");
   EXPECT_DEATH(std::as_const(stamp).GetPosition(2), "index < 2");
+}
+
+// Reading ends such a run after two, and what follows begins another; a host may fill it as any other.
+TEST(AccessorDeathTest, ARunThatMayBeFollowedByAnotherIsFilledLikeAny) {
+  InnerTime times;
+  Position const& fifth = times.GetPosition(4);
+  EXPECT_EQ(5u, times.SizePosition());
+  EXPECT_EQ(&fifth, &std::as_const(times).GetPosition(4));
+  EXPECT_DEATH(std::as_const(times).GetPosition(5), "index < u\\.mPosition->size\\(\\)");
+  InnerTime one;
+  one.AppendPosition();
   EXPECT_DEATH(std::as_const(one).GetPosition(1), "index < u\\.mPosition->size\\(\\)");
 }
 

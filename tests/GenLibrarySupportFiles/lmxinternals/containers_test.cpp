@@ -6,6 +6,7 @@
 #include <memory>
 #include <new>
 #include <random>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -366,6 +367,56 @@ TEST_F(Owners, ChildrenComeAndGoInAnyOrder) {
   }
 }
 
+constexpr struct Elsewhere {
+} elsewhere;
+
+/// Where a list has made its children.
+struct Placed {
+  Placed() { places.insert(this); }
+  explicit Placed(Elsewhere) {}
+  Placed* clone() const { return new Placed(elsewhere); }
+  int value = 0;
+  static std::set<Placed const*> places;
+};
+std::set<Placed const*> Placed::places;
+
+TEST(Children, TakeThePlacesOfThoseThatWereRemoved) {
+  Placed::places.clear();
+  lmx::ct_complex_multi<Placed> children;
+  for (int i = 0; i != 10000; ++i) {
+    children.append();
+    children.erase(0);
+  }
+  EXPECT_LE(Placed::places.size(), 1u);
+
+  // With others between them, which stay where they are.
+  std::vector<Placed const*> kept;
+  for (int i = 0; i != 100; ++i) kept.push_back(&children.append());
+  for (int i = 0; i != 10000; ++i) {
+    children.append();
+    children.erase(50);
+    kept.erase(kept.begin() + 50);
+    kept.push_back(&children.append());
+    children.erase(children.size() - 2);
+  }
+  ASSERT_EQ(kept.size(), children.size());
+  for (std::size_t i = 0; i != kept.size(); ++i) ASSERT_EQ(kept[i], &children.get(i)) << i;
+  EXPECT_LE(Placed::places.size(), 256u);
+
+  // One that is replaced leaves its place too.
+  for (int i = 0; i != 10000; ++i) {
+    children.append();
+    children.assign(100, std::make_unique<Placed>(elsewhere));
+    children.erase(100);
+  }
+  EXPECT_LE(Placed::places.size(), 256u);
+  lmx::ct_complex_multi<Placed> taken(std::move(children));
+  children.append();  // NOLINT(bugprone-use-after-move): promised
+  taken.clear();
+  taken.append();
+  EXPECT_EQ(1u, taken.size());
+}
+
 /// A child whose making or cloning may fail.
 struct Fragile {
   explicit Fragile(int value_in = 0) : child(value_in) {
@@ -391,6 +442,14 @@ TEST_F(Owners, ChildrenThatCannotBeMadeLeaveTheListAsItIs) {
     ASSERT_EQ(count, children.size());
     EXPECT_EQ(static_cast<int>(count), Child::alive);
     children.append().child.value = static_cast<int>(count);
+    for (std::size_t i = 0; i <= count; ++i) EXPECT_EQ(static_cast<int>(i), children.get(i).child.value);
+
+    // In places that were used before, which stay free when nothing comes of it.
+    while (!children.empty()) children.erase(0);
+    Fragile::is_broken = true;
+    for (int i = 0; i != 3; ++i) EXPECT_THROW(children.append(), std::bad_alloc);
+    Fragile::is_broken = false;
+    for (std::size_t i = 0; i <= count; ++i) children.append().child.value = static_cast<int>(i);
     for (std::size_t i = 0; i <= count; ++i) EXPECT_EQ(static_cast<int>(i), children.get(i).child.value);
   }
 }

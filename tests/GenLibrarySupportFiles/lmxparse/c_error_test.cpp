@@ -575,6 +575,19 @@ TEST(EventFailures, AreTheLastCodeAndCaptureNothing) {
   }
 }
 
+TEST(Reader, ShowsAnErrorWithoutAProgramFile) {
+  MemoryRead read("<a/>");
+  lmx::c_xml_reader reader(read);
+  EXPECT_EQ(lmx::ELMX_BADLY_FORMED, reader.capture_error(lmx::ELMX_BADLY_FORMED, "x", nullptr, 3));
+  EXPECT_NE(std::string::npos, reader.get_error_message().find("Program file: (not set)\nProgram line: 3\n"));
+
+  lmx::s_debug_error error;
+  error.set(lmx::ELMX_BADLY_FORMED, "x", nullptr, 3, -1);
+  std::ostringstream out;
+  out << error;
+  EXPECT_EQ(error.to_string(), out.str());
+}
+
 TEST(Reader, StartsWithoutAnEventOrAnError) {
   MemoryRead read("<a/>");
   const lmx::c_xml_reader reader(read);

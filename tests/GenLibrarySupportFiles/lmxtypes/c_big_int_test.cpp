@@ -276,6 +276,40 @@ TEST(BigIntRelations, FindNothingEqualToAnEmptyText) {
   }
 }
 
+// Each of an integer type's values, in every way that a number is taken.
+template <class Value, class Integer>
+void expect_taken(Integer number) {
+  const std::string text = std::to_string(number);
+  SCOPED_TRACE(text);
+  EXPECT_EQ(text, Value(number).get_as_string());
+  Value value("77");
+  value = number;
+  EXPECT_EQ(text, value.get_as_string());
+  EXPECT_TRUE(value == number && number == value && !(value != number) && !(number != value));
+  EXPECT_TRUE(value <= number && number <= value && value >= number && number >= value);
+  EXPECT_FALSE(value < number || number < value || value > number || number > value);
+  const Value more(text[0] == '-' ? "0" : "18446744073709551616");
+  EXPECT_TRUE(more > number && number < more && more >= number && number <= more && more != number);
+  EXPECT_FALSE(more < number || number > more || more == number);
+}
+
+template <class Value, class... Integer>
+void expect_limits_taken() {
+  for (const bool lowest_too : {true, false}) {
+    (expect_taken<Value>(lowest_too ? std::numeric_limits<Integer>::min()
+                                    : std::numeric_limits<Integer>::max()),
+     ...);
+  }
+  (expect_taken<Value>(static_cast<Integer>(1)), ...);
+  (expect_taken<Value>(static_cast<Integer>(2147483648u)), ...);
+}
+
+TEST(BigIntRelations, TakeEveryIntegerAsItIs) {
+  expect_limits_taken<c_big_int, unsigned int, unsigned long, long long, unsigned long long>();
+  expect_taken<c_big_int>(std::numeric_limits<int>::min());
+  expect_taken<c_big_int>(std::numeric_limits<short>::min());
+}
+
 TEST(BigIntRelations, TakeMachineNumbers) {
   EXPECT_TRUE(c_big_int("0") == 0);
   EXPECT_TRUE(0 == c_big_int("-0"));
@@ -328,8 +362,23 @@ struct grouping : std::numpunct<char> {
 TEST(BigIntOutput, IgnoresTheStreamsFormat) {
   std::ostringstream os;
   os.imbue(std::locale(std::locale::classic(), new grouping));
-  os << std::showpos << std::setfill('*') << std::setw(20) << c_big_int("-1234567");
-  EXPECT_EQ("-1234567", os.str());
+  os << std::showpos << c_big_int("-1234567") << c_big_int("1234567");
+  EXPECT_EQ("-12345671234567", os.str());
+}
+
+TEST(BigIntOutput, IsPaddedLikeText) {
+  for (char const* const text : {"5", "-12", "123456", "1234567"}) {
+    for (auto const adjust : {std::left, std::right, std::internal}) {
+      std::ostringstream value, expected;
+      value << std::setfill('*') << adjust << std::setw(6) << c_big_int(text) << '|';
+      expected << std::setfill('*') << adjust << std::setw(6) << std::string(text) << '|';
+      EXPECT_EQ(expected.str(), value.str());
+      EXPECT_EQ(0, value.width());
+    }
+  }
+  std::ostringstream os;
+  os << std::setw(6) << c_big_int("5") << 7;
+  EXPECT_EQ("     57", os.str());
 }
 
 }  // namespace

@@ -110,9 +110,61 @@ TEST(DecimalOutput, IgnoresTheStreamsFormat) {
   };
   std::ostringstream os;
   os.imbue(std::locale(std::locale::classic(), new grouping));
-  os << std::showpos << std::fixed << std::setprecision(2) << std::setfill('*') << std::setw(20)
-     << c_decimal("1234567.1250");
+  os << std::showpos << std::fixed << std::setprecision(2) << c_decimal("1234567.1250");
   EXPECT_EQ("1234567.1250", os.str());
+}
+
+TEST(DecimalOutput, IsPaddedLikeText) {
+  for (char const* const text : {"0.5", "-1.25", "123.456", "1234567.1250"}) {
+    for (auto const adjust : {std::left, std::right, std::internal}) {
+      std::ostringstream value, expected;
+      value << std::setfill('*') << adjust << std::setw(7) << c_decimal(text) << '|';
+      expected << std::setfill('*') << adjust << std::setw(7) << std::string(text) << '|';
+      EXPECT_EQ(expected.str(), value.str());
+      EXPECT_EQ(0, value.width());
+    }
+  }
+  std::ostringstream os;
+  os << std::setw(6) << velmo::lmx::high_precision_c_decimal("0.5") << 7;
+  EXPECT_EQ("   0.57", os.str());
+}
+
+// Each of an integer type's values, in every way that a number is taken.
+template <class Value, class Integer>
+void expect_taken(Integer number) {
+  const std::string text = std::to_string(number);
+  SCOPED_TRACE(text);
+  EXPECT_EQ(text, Value(number).get_as_string());
+  Value value("77");
+  value = number;
+  EXPECT_EQ(text, value.get_as_string());
+  EXPECT_TRUE(value == number && number == value && !(value != number) && !(number != value));
+  EXPECT_TRUE(value <= number && number <= value && value >= number && number >= value);
+  EXPECT_FALSE(value < number || number < value || value > number || number > value);
+  const Value more(text[0] == '-' ? "0" : "18446744073709551616");
+  EXPECT_TRUE(more > number && number < more && more >= number && number <= more && more != number);
+  EXPECT_FALSE(more < number || number > more || more == number);
+}
+
+template <class Value, class... Integer>
+void expect_limits_taken() {
+  for (const bool lowest_too : {true, false}) {
+    (expect_taken<Value>(lowest_too ? std::numeric_limits<Integer>::min()
+                                    : std::numeric_limits<Integer>::max()),
+     ...);
+  }
+  (expect_taken<Value>(static_cast<Integer>(1)), ...);
+  (expect_taken<Value>(static_cast<Integer>(2147483648u)), ...);
+}
+
+TEST(Decimal, TakesEveryIntegerAsItIs) {
+  expect_limits_taken<c_decimal, unsigned int, unsigned long, long long, unsigned long long>();
+  expect_taken<c_decimal>(std::numeric_limits<int>::min());
+  expect_taken<c_decimal>(std::numeric_limits<short>::min());
+  expect_limits_taken<velmo::lmx::high_precision_c_decimal, unsigned int, unsigned long, long long,
+                      unsigned long long>();
+  expect_taken<velmo::lmx::high_precision_c_decimal>(std::numeric_limits<int>::min());
+  expect_taken<velmo::lmx::high_precision_c_decimal>(std::numeric_limits<short>::min());
 }
 
 // --- From machine numbers --------------------------------------------------------------------------------

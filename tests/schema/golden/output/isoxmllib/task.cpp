@@ -17,13 +17,13 @@ using namespace binding;
 
 InnerShelf::InnerShelf() { init(); }
 InnerShelf::InnerShelf(InnerShelf const& other) = default;
-InnerShelf::InnerShelf(InnerShelf&& other) noexcept = default;
+InnerShelf::InnerShelf(InnerShelf&& other) noexcept : chosen(std::exchange(other.chosen, NothingChosen)), m_held(std::move(other.m_held)) {}
 InnerShelf::InnerShelf(lmx::xmlReader& reader, lmx::elmx_error* error) { init(); *error = lmx::ELMX_OK; unmarshal(reader, error); }
 InnerShelf* InnerShelf::clone() const { return new InnerShelf(*this); }
 InnerShelf::~InnerShelf() = default;
 InnerShelf& InnerShelf::operator=(InnerShelf const& other) { InnerShelf copy(other); swap(copy); return *this; }
-InnerShelf& InnerShelf::operator=(InnerShelf&& other) noexcept = default;
-void InnerShelf::swap(InnerShelf& other) noexcept { std::swap(*this, other); }
+InnerShelf& InnerShelf::operator=(InnerShelf&& other) noexcept { InnerShelf taken(std::move(other)); swap(taken); return *this; }
+void InnerShelf::swap(InnerShelf& other) noexcept { std::swap(chosen, other.chosen); std::swap(m_held, other.m_held); }
 void InnerShelf::reset() { InnerShelf empty; swap(empty); }
 void InnerShelf::init() { chosen = NothingChosen; }
 

@@ -27,6 +27,7 @@ class ISOXML_API InnerShelf {
 
   InnerShelf();
   InnerShelf(InnerShelf const& other);
+  /// Leaves `other` behind like a new object.
   InnerShelf(InnerShelf&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   InnerShelf(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -86,6 +87,7 @@ class ISOXML_API Shelf {
  public:
   Shelf();
   Shelf(Shelf const& other);
+  /// Leaves `other` behind like a new object.
   Shelf(Shelf&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Shelf(lmx::xmlReader& reader, lmx::elmx_error* error);
@@ -168,6 +170,7 @@ class ISOXML_API Book {
  public:
   Book();
   Book(Book const& other);
+  /// Leaves `other` behind like a new object.
   Book(Book&& other) noexcept;
   /// Reads itself from `reader`; `*error` is the result.
   Book(lmx::xmlReader& reader, lmx::elmx_error* error);
