@@ -18,29 +18,38 @@ namespace lmx {
 
 namespace {
 
+// The thread's own variables are sought once: a document's texts may be matched by the thousand.
 class c_silent_libxml2 {
  public:
-  c_silent_libxml2() : m_handler(xmlStructuredError), mp_context(xmlStructuredErrorContext) {
+  c_silent_libxml2()
+      : mr_handler(xmlStructuredError),
+        mr_context(xmlStructuredErrorContext),
+        m_handler(mr_handler),
+        mp_context(mr_context) {
     if (auto* const last = xmlGetLastError()) copy_error(last, &m_last_error);
+    mr_context = this;
     // The parameter type of a handler differs between releases of libxml2.
-    xmlSetStructuredErrorFunc(this, [](void* self, auto error) {
-      if (error->code == XML_REGEXP_COMPILE_ERROR)
-        static_cast<c_silent_libxml2*>(self)->m_heard_bad_pattern = true;
-      if (error->code == XML_ERR_NO_MEMORY) static_cast<c_silent_libxml2*>(self)->m_heard_no_memory = true;
-    });
+    mr_handler = [](void* self, auto error) { static_cast<c_silent_libxml2*>(self)->hear(error->code); };
   }
   c_silent_libxml2(c_silent_libxml2 const&) = delete;
   c_silent_libxml2& operator=(c_silent_libxml2 const&) = delete;
   ~c_silent_libxml2() {
-    xmlSetStructuredErrorFunc(mp_context, m_handler);
-    restore_last_error();
-    xmlResetError(&m_last_error);
+    mr_handler = m_handler;
+    mr_context = mp_context;
+    if (m_has_heard) restore_last_error();
+    if (m_last_error.code != XML_ERR_OK) xmlResetError(&m_last_error);
   }
 
   bool has_heard_of_a_bad_pattern() const { return m_heard_bad_pattern; }
   bool has_heard_of_no_memory() const { return m_heard_no_memory; }
 
  private:
+  void hear(int code) {
+    m_has_heard = true;
+    if (code == XML_REGEXP_COMPILE_ERROR) m_heard_bad_pattern = true;
+    if (code == XML_ERR_NO_MEMORY) m_heard_no_memory = true;
+  }
+
   // There is no setter for the last error, but the record that the getter gives is the thread's own.
   void restore_last_error() {
     if (m_last_error.code == XML_ERR_OK) {
@@ -56,9 +65,12 @@ class c_silent_libxml2 {
     to->ctxt = from->ctxt;
   }
 
-  xmlStructuredErrorFunc m_handler;
-  void* mp_context;
+  xmlStructuredErrorFunc& mr_handler;
+  void*& mr_context;
+  xmlStructuredErrorFunc const m_handler;
+  void* const mp_context;
   xmlError m_last_error{};
+  bool m_has_heard = false;
   bool m_heard_bad_pattern = false;
   bool m_heard_no_memory = false;
 };
