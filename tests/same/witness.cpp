@@ -121,6 +121,14 @@ class Mutations {
 
 // ---- What is seen ----
 
+// Without the lines of the program, which any change moves.
+std::string without_program_lines(std::string text) {
+  constexpr char const start[] = "Program line: ";
+  for (std::size_t at = text.find(start); at != std::string::npos; at = text.find(start, at))
+    text.erase(at, text.find('\n', at) - at);
+  return text;
+}
+
 constexpr std::size_t windows[] = {0, 1, 2, 3, 5, 16, 64, ~std::size_t{0}};
 
 std::string seen_of_readings(std::string const& document) {
@@ -139,13 +147,13 @@ std::string seen_of_readings(std::string const& document) {
     }
     all += "\n====\n";
   }
-  return all;
+  return without_program_lines(std::move(all));
 }
 
 std::string seen_of_set(std::string const& document, fs::path const& directory) {
   std::ofstream(directory / "TASKDATA.XML", std::ios::binary | std::ios::trunc) << document;
   IsoXmlParser parser(directory.string(), "TASKDATA.XML");
-  return ViewsText(parser).text();
+  return without_program_lines(ViewsText(parser).text());
 }
 
 // ---- Validators ----
