@@ -46,26 +46,35 @@ void c_enumerated_namespaces::clear() {
 
 namespace detail {
 
+std::string const& namespace_bindings::place::prefix() const { return scope->m_ids.entries()[index].first; }
+
+int const& namespace_bindings::place::id() const { return scope->m_ids.entries()[index].second; }
+
 int const* namespace_bindings::find(std::string const& prefix) const {
-  std::size_t const* const slot = m_slots.find(prefix);
-  return slot == nullptr ? nullptr : p_id_in(*slot);
+  auto const found = m_chains.find(hash_of_name(prefix));
+  if (found == m_chains.end()) return nullptr;
+  for (auto place = found->second.rbegin(); place != found->second.rend(); ++place) {
+    if (place->prefix() == prefix) return &place->id();
+  }
+  return nullptr;
 }
 
-void namespace_bindings::bind(std::string const& prefix, int id) {
-  const std::size_t slot = p_slot(prefix);
-  if (slot == m_now.size()) m_now.push_back(unbound);
-  m_bindings.push_back({slot, m_now[slot]});
-  m_now[slot] = id;
+void namespace_bindings::bind(c_xml_local const& scope) {
+  const place last{&scope, scope.m_ids.size() - 1};
+  const std::size_t hash = hash_of_name(last.prefix());
+  m_order.push_back(hash);
+  m_chains[hash].push_back(last);
+  if (last.prefix().empty()) m_defaults.push_back(last);
 }
 
 void namespace_bindings::unbind(std::size_t count) {
   for (; count != 0; --count) {
-    m_now[m_bindings.back().slot] = m_bindings.back().id_before;
-    m_bindings.pop_back();
+    auto const found = m_chains.find(m_order.back());
+    m_order.pop_back();
+    if (found->second.back().prefix().empty()) m_defaults.pop_back();
+    found->second.pop_back();
+    if (found->second.empty()) m_chains.erase(found);
   }
-  if (!m_bindings.empty()) return;
-  m_slots.clear();  // as many as were bound since: a document's prefixes are not kept for its whole length
-  m_now.resize(1);
 }
 
 }  // namespace detail
@@ -144,11 +153,7 @@ void c_xml_local::add_namespace(char const* prefix, int id) {
   try {
     auto& bindings = mp_outermost->mp_bindings;
     if (bindings == nullptr) bindings = std::make_unique<detail::namespace_bindings>();
-    if (m_ids.size() == size) {
-      bindings->rebind(prefix, id);
-    } else {
-      bindings->bind(prefix, id);
-    }
+    if (m_ids.size() != size) bindings->bind(*this);
   } catch (...) {
     p_leave_order();  // half a binding must not be taken back
     throw;

@@ -93,37 +93,34 @@ class c_xml_local;
 
 namespace detail {
 
-/// What each prefix stands for in the innermost of the scopes that nest in one another: one look instead of a
-/// walk through all of them, of which a document chooses the number.
+/// Where each prefix was declared last in scopes that nest in one another: one look instead of a walk through
+/// all of them, of which a document chooses the number. Names stay in the scopes; here are hashes of them.
 class namespace_bindings {
  public:
-  /// What `prefix` stands for; null when nothing binds it.
+  /// What `prefix` stands for in the innermost scope; null when nothing binds it. Borrowed until anything
+  /// changes.
   int const* find(std::string const& prefix) const;
-  /// Binds `prefix` until `unbind`.
-  void bind(std::string const& prefix, int id);
-  /// Binds a prefix that the innermost scope has bound already.
-  void rebind(std::string const& prefix, int id) { m_now[p_slot(prefix)] = id; }
-  /// What the empty prefix stands for; null when nothing binds it.
-  int const* find_default() const { return p_id_in(default_slot); }
-  /// Takes the last `count` bindings back.
+  /// The same for the empty prefix.
+  int const* find_default() const { return m_defaults.empty() ? nullptr : &m_defaults.back().id(); }
+  /// Takes in the last declaration of the innermost scope, which has to be a new one there.
+  void bind(c_xml_local const& scope);
+  /// Takes the last `count` declarations back.
   void unbind(std::size_t count);
 
  private:
-  struct binding {
-    std::size_t slot;
-    int id_before;
+  /// A declaration: the entry of a scope.
+  struct place {
+    c_xml_local const* scope;
+    std::size_t index;
+
+    std::string const& prefix() const;
+    int const& id() const;
   };
-  static constexpr std::size_t default_slot = 0;
-  static constexpr int unbound = -1;  // no id
+  using chain = std::vector<place>;  // of one hash, the innermost last
 
-  std::size_t p_slot(std::string const& prefix) {
-    return prefix.empty() ? default_slot : m_slots.find_or_add(prefix, m_now.size());
-  }
-  int const* p_id_in(std::size_t slot) const { return m_now[slot] == unbound ? nullptr : &m_now[slot]; }
-
-  c_repository<std::size_t> m_slots;  // of each prefix that has been bound
-  std::vector<int> m_now{unbound};    // what it stands for, in its slot
-  std::vector<binding> m_bindings;    // in the order they were made
+  std::unordered_map<std::size_t, chain> m_chains;
+  chain m_defaults;                  // those of the empty prefix
+  std::vector<std::size_t> m_order;  // the hashes, as they were bound
 };
 
 }  // namespace detail
@@ -187,6 +184,8 @@ class ISOXML_API c_xml_local {
            mp_outermost->mp_bindings != nullptr;
   }
   void p_leave_order();
+
+  friend class detail::namespace_bindings;
 
   c_repository<int> m_ids;
   c_xml_local* const mp_outermost = this;
