@@ -163,14 +163,14 @@ class ISOXML_API Grower {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -348,14 +348,14 @@ class ISOXML_API Farm {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -497,14 +497,14 @@ class ISOXML_API Worker {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -560,8 +560,8 @@ class ISOXML_API InnerProduct {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -741,14 +741,14 @@ class ISOXML_API Product {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -831,14 +831,14 @@ class ISOXML_API ProductGroup {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -907,14 +907,14 @@ class ISOXML_API ProductRelation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1003,14 +1003,14 @@ class ISOXML_API ValuePresentation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1059,8 +1059,8 @@ class ISOXML_API InnerCropType {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1161,14 +1161,14 @@ class ISOXML_API CropType {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1237,14 +1237,14 @@ class ISOXML_API CropVariety {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1290,8 +1290,8 @@ class ISOXML_API InnerCulturalPractice {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1386,14 +1386,14 @@ class ISOXML_API CulturalPractice {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1454,14 +1454,14 @@ class ISOXML_API OperationTechnique {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1515,14 +1515,14 @@ class ISOXML_API OperationTechniqueReference {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1566,8 +1566,8 @@ class ISOXML_API InnerCodedComment {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1680,14 +1680,14 @@ class ISOXML_API CodedComment {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1750,14 +1750,14 @@ class ISOXML_API CoddedCommentGroup {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1818,14 +1818,14 @@ class ISOXML_API CodedCommentListValue {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1870,8 +1870,8 @@ class ISOXML_API InnerColourLegend {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1966,14 +1966,14 @@ class ISOXML_API ColourLegend {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2040,14 +2040,14 @@ class ISOXML_API ColourRange {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];

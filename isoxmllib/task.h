@@ -64,8 +64,8 @@ class ISOXML_API InnerTask {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -414,14 +414,14 @@ class ISOXML_API Task {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -477,8 +477,8 @@ class ISOXML_API InnerTreatmentZone {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -595,14 +595,14 @@ class ISOXML_API TreatmentZone {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -649,8 +649,8 @@ class ISOXML_API InnerProcessDataVariable {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -816,14 +816,14 @@ class ISOXML_API ProcessDataVariable {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -954,14 +954,14 @@ class ISOXML_API Grid {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1015,8 +1015,8 @@ class ISOXML_API InnerTime {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1144,14 +1144,14 @@ class ISOXML_API Time {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1262,14 +1262,14 @@ class ISOXML_API Position {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1404,14 +1404,14 @@ class ISOXML_API DataLogTrigger {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1509,14 +1509,14 @@ class ISOXML_API DataLogValue {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1593,14 +1593,14 @@ class ISOXML_API TimeLog {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1646,8 +1646,8 @@ class ISOXML_API InnerAllocationStamp {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1752,14 +1752,14 @@ class ISOXML_API AllocationStamp {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1807,8 +1807,8 @@ class ISOXML_API InnerCommentAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1893,14 +1893,14 @@ class ISOXML_API CommentAllocation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1947,8 +1947,8 @@ class ISOXML_API InnerDeviceAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -2035,14 +2035,14 @@ class ISOXML_API DeviceAllocation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2089,8 +2089,8 @@ class ISOXML_API InnerWorkerAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -2162,14 +2162,14 @@ class ISOXML_API WorkerAllocation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2214,8 +2214,8 @@ class ISOXML_API InnerProductAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -2333,14 +2333,14 @@ class ISOXML_API ProductAllocation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2391,8 +2391,8 @@ class ISOXML_API InnerControlAssignment {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -2508,14 +2508,14 @@ class ISOXML_API ControlAssignment {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2595,14 +2595,14 @@ class ISOXML_API Connection {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2664,14 +2664,14 @@ class ISOXML_API OperTechPractice {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
