@@ -4,35 +4,20 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstdint>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/element_rows.h"
+#include "support/file_bytes.h"
 #include "support/recording_reader.h"
 #include "support/writing.h"
 
 namespace {
-
-struct ElementRow {
-  char const* tag;
-  void (*select)(Root& root);
-  lmx::elmx_error (*marshal)(Root const& root, lmx::c_xml_writer& writer);
-  char const* new_object;
-  char const* filled;
-};
-
-struct ChoiceRow {
-  char const* name;
-  std::int32_t nothing_chosen;
-  lmx::elmx_error (*marshal)(lmx::c_xml_writer& writer, std::int32_t chosen);
-};
-
-#include "element_rows.inc"
 
 using Names = std::vector<std::string>;
 
@@ -237,126 +222,101 @@ TEST(EveryClass, ThatMustHaveChildrenMissesOneThatIsCutOffInItsStartTag) {
 
 // ---- Name tables ----
 
-// The tables of a class with children and of its wrapper.
-struct Tables {
-  char const* tag;
-  lmx::s_known_elements const* known_elements;
-  lmx::s_event_map const* of_class;
-  lmx::s_event_map const* of_wrapper;
-};
+using Events = std::vector<std::pair<std::string, int>>;
 
-template <class X, class Inner>
-constexpr Tables tables(char const* tag) {
-  return {tag, X::known_elements, X::elem_event_map, Inner::elem_event_map};
+// The names and numbers that are pinned for a class, in the order of the format.
+Events pinned(std::string const& kind, std::string const& owner) {
+  Events found;
+  std::istringstream rows(file_bytes(ISOXML_PINNED_NUMBERS));
+  for (std::string row; std::getline(rows, row);) {
+    std::istringstream cells(row);
+    std::string cell[5];  // kind, class, name, field, event
+    for (std::string& text : cell) std::getline(cells, text, ',');
+    if (cell[0] == kind && cell[1] == owner) found.emplace_back(cell[2], std::stoi(cell[4]));
+  }
+  return found;
 }
 
-const Tables tables_of_parents[] = {
-    tables<TaskData, InnerTaskData>("ISO11783_TaskData"),
-    tables<ExternalFileContent, InnerExternalFileContent>("XFC"),
-    tables<LinkList, InnerLinkList>("ISO11783LinkList"),
-    tables<LinkGroup, InnerLinkGroup>("LGP"),
-    tables<Product, InnerProduct>("PDT"),
-    tables<CropType, InnerCropType>("CTP"),
-    tables<CulturalPractice, InnerCulturalPractice>("CPC"),
-    tables<CodedComment, InnerCodedComment>("CCT"),
-    tables<ColourLegend, InnerColourLegend>("CLD"),
-    tables<Field, InnerField>("PFD"),
-    tables<Polygon, InnerPolygon>("PLN"),
-    tables<LineString, InnerLineString>("LSG"),
-    tables<GuidanceGroup, InnerGuidanceGroup>("GGP"),
-    tables<GuidancePattern, InnerGuidancePattern>("GPN"),
-    tables<GuidanceAllocation, InnerGuidanceAllocation>("GAN"),
-    tables<GuidanceShift, InnerGuidanceShift>("GST"),
-    tables<Task, InnerTask>("TSK"),
-    tables<TreatmentZone, InnerTreatmentZone>("TZN"),
-    tables<ProcessDataVariable, InnerProcessDataVariable>("PDV"),
-    tables<Time, InnerTime>("TIM"),
-    tables<AllocationStamp, InnerAllocationStamp>("ASP"),
-    tables<CommentAllocation, InnerCommentAllocation>("CAN"),
-    tables<DeviceAllocation, InnerDeviceAllocation>("DAN"),
-    tables<WorkerAllocation, InnerWorkerAllocation>("WAN"),
-    tables<ProductAllocation, InnerProductAllocation>("PAN"),
-    tables<ControlAssignment, InnerControlAssignment>("CAT"),
-    tables<Device, InnerDevice>("DVC"),
-    tables<DeviceElement, InnerDeviceElement>("DET"),
-    // Without a wrapper.
-    tables<P917Questions, P917Questions>("P917_Questions"),
-    tables<P917Question, P917Question>("P917_Question"),
-};
+Events pinned_children(std::string const& owner) {
+  if (owner == "P917Questions") return {{"P917_Question", 36}};  // a list, which is no choice
+  const Events children = pinned("child", owner);
+  return children.empty() ? pinned("alternative", owner) : children;
+}
 
 template <class Row>
-Names names(Row const* row) {
+void expect_name(Row const& row) {
+  EXPECT_EQ(1, row.m_ns_id) << row.mp_name;
+  EXPECT_EQ(std::string(row.mp_name).size(), row.m_length) << row.mp_name;
+}
+
+Events events(lmx::s_event_map const* row) {
+  Events all;
+  for (; row->mp_name != nullptr; ++row) {
+    expect_name(*row);
+    all.emplace_back(row->mp_name, row->m_event);
+  }
+  return all;
+}
+
+Names names(lmx::s_known_elements const* row) {
   Names all;
   for (; row->mp_name != nullptr; ++row) {
-    EXPECT_EQ(1, row->m_ns_id) << row->mp_name;
-    EXPECT_EQ(std::string(row->mp_name).size(), row->m_length) << row->mp_name;
+    expect_name(*row);
     all.emplace_back(row->mp_name);
   }
   return all;
 }
 
+Names names(Events const& events) {
+  Names all;
+  for (auto const& event : events) all.push_back(event.first);
+  return all;
+}
+
+TEST(NameTables, GiveEachAttributeItsNumber) {
+  for (TableRow const& row : table_rows) {
+    SCOPED_TRACE(row.name);
+    if (row.attributes == nullptr) continue;
+    EXPECT_EQ(pinned("attribute", row.name), events(row.attributes));
+  }
+}
+
 TEST(NameTables, HoldTheOwnChildrenOfEachClassInOrder) {
-  EXPECT_EQ(parents().size(), std::size(tables_of_parents));
-  for (Tables const& row : tables_of_parents) {
-    SCOPED_TRACE(row.tag);
-    const Names children = words(parents().at(row.tag).children);
-    EXPECT_EQ(children, names(row.known_elements));
-    EXPECT_EQ(children, names(row.of_class));
-    EXPECT_EQ(children, names(row.of_wrapper));
+  EXPECT_EQ(62u, table_rows.size()) << "61 classes and Root";
+  for (TableRow const& row : table_rows) {
+    SCOPED_TRACE(row.name);
+    const Events children = pinned_children(row.name);
+    EXPECT_EQ(children, events(row.children));
+    EXPECT_EQ(names(children), names(row.known_elements));
+    if (row.children_of_wrapper == nullptr) continue;
+    EXPECT_EQ(children, events(row.children_of_wrapper));
   }
 }
 
-TEST(NameTables, AreEmptyForClassesWithoutChildren) {
-  for (lmx::s_known_elements const* const table : {AttachedFile::known_elements,
-                                                   P917Metadata::known_elements,
-                                                   TaskControllerCapabilities::known_elements,
-                                                   ExternalFileReference::known_elements,
-                                                   BaseStation::known_elements,
-                                                   CoddedCommentGroup::known_elements,
-                                                   CodedCommentListValue::known_elements,
-                                                   ColourRange::known_elements,
-                                                   Connection::known_elements,
-                                                   CropVariety::known_elements,
-                                                   Grower::known_elements,
-                                                   DataLogTrigger::known_elements,
-                                                   DataLogValue::known_elements,
-                                                   DeviceObjectReference::known_elements,
-                                                   DeviceProcessData::known_elements,
-                                                   DeviceProperty::known_elements,
-                                                   DeviceValuePresentation::known_elements,
-                                                   Farm::known_elements,
-                                                   Grid::known_elements,
-                                                   OperationTechnique::known_elements,
-                                                   OperationTechniqueReference::known_elements,
-                                                   OperTechPractice::known_elements,
-                                                   Point::known_elements,
-                                                   Position::known_elements,
-                                                   ProductGroup::known_elements,
-                                                   ProductRelation::known_elements,
-                                                   TimeLog::known_elements,
-                                                   ValuePresentation::known_elements,
-                                                   Worker::known_elements,
-                                                   Link::known_elements}) {
-    EXPECT_EQ(Names{}, names(table));
+TEST(NameTables, HoldTheChildrenThatTheDocumentsAreMadeOf) {
+  for (ElementRow const& row : element_rows) {
+    const auto parent = parents().find(row.tag);
+    const Names expected = parent == parents().end() ? Names{} : words(parent->second.children);
+    EXPECT_EQ(expected,
+              names(table_rows[static_cast<std::size_t>(&row - element_rows.data())].known_elements))
+        << row.tag;
   }
 }
 
-int event_of(lmx::s_event_map const* row, std::string const& name) {
-  for (; row->mp_name != nullptr; ++row) {
-    if (row->mp_name == name) return row->m_event;
-  }
-  return 0;
-}
-
+// A polygon has one number as a part of a field or a zone, another as the boundary of guidance.
 TEST(NameTables, TellABoundaryInGuidanceFromAnyOtherPolygon) {
-  const std::map<std::string, int> expected = {{"PFD", 134}, {"TZN", 134}, {"GGP", 159}, {"GPN", 159}};
-  for (Tables const& row : tables_of_parents) {
-    SCOPED_TRACE(row.tag);
-    const auto event = expected.find(row.tag);
-    EXPECT_EQ(event == expected.end() ? 0 : event->second, event_of(row.of_class, "PLN"));
-    EXPECT_EQ(event == expected.end() ? 0 : event->second, event_of(row.of_wrapper, "PLN"));
+  const std::map<std::string, int> expected = {{"Root", 134},
+                                               {"Field", 134},
+                                               {"TreatmentZone", 134},
+                                               {"GuidanceGroup", 159},
+                                               {"GuidancePattern", 159}};
+  std::map<std::string, int> found;
+  for (TableRow const& row : table_rows) {
+    for (auto const& [name, event] : events(row.children)) {
+      if (name == "PLN") found[row.name] = event;
+    }
   }
-  EXPECT_EQ(134, event_of(Root::elem_event_map, "PLN"));
+  EXPECT_EQ(expected, found);
 }
 
 }  // namespace

@@ -15,27 +15,12 @@
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
 #include "support/document.h"
+#include "support/element_rows.h"
 #include "support/writing.h"
 
 namespace {
 
 using lmx::c_xml_writer;
-
-struct ElementRow {
-  char const* tag;
-  void (*select)(Root& root);
-  lmx::elmx_error (*marshal)(Root const& root, c_xml_writer& writer);
-  char const* new_object;
-  char const* filled;
-};
-
-struct ChoiceRow {
-  char const* name;
-  std::int32_t nothing_chosen;
-  lmx::elmx_error (*marshal)(c_xml_writer& writer, std::int32_t chosen);
-};
-
-#include "element_rows.inc"
 
 // Calls `check` for a `Root` that holds a new object of each class.
 template <class Check>

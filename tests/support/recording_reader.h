@@ -26,6 +26,9 @@ inline Tolerance tolerate(std::initializer_list<int> codes) {
   return [allowed = std::set<int>(codes)](int code) { return allowed.count(code) > 0; };
 }
 
+/// How a report is noted.
+inline std::string report(int code, std::string const& item) { return std::to_string(code) + ' ' + item; }
+
 class RecordingReader : public lmx::xmlReader {
  public:
   RecordingReader(std::string const& path, Tolerance tolerance)
@@ -35,7 +38,7 @@ class RecordingReader : public lmx::xmlReader {
 
   lmx::elmx_error handle_error(lmx::elmx_error code, std::string const& item, char const*,
                                int line) override {
-    note(m_reports, std::to_string(code) + ' ' + item);
+    note(m_reports, report(code, item));
     note(m_program_lines, std::to_string(line));
     return m_tolerance(code) ? lmx::ELMX_OK : code;
   }
