@@ -31,7 +31,8 @@ enum elmx_error : int {
   ELMX_BAD_CHAR_ENCODING = 6,
   /// On writing: `chosen` is the number of no alternative; the item is "{anonymous compositor}".
   ELMX_BAD_CHOICE = 7,
-  /// A warning alone: a comment ends in more than two hyphens; there is no item.
+  /// A warning: a comment ends in more than two hyphens. Told only where what follows fails without a code of
+  /// its own; the item is then what was being read.
   ELMX_BAD_COMMENT = 8,
   /// The document type declaration is damaged or out of place, or fatal: entities are recursive, nested too
   /// deep or out of proportion; the item is what was being read.
@@ -53,7 +54,8 @@ enum elmx_error : int {
   ELMX_ENCODING_MISMATCH = 15,
   /// A class that reads a document by itself finds another top element; the item is the name found.
   ELMX_ELEMENT_NOT_FOUND = 16,
-  /// A warning alone: an entity lies outside the document and counts as empty; there is no item.
+  /// A warning: an entity lies outside the document and counts as empty. Told only where what follows fails
+  /// without a code of its own; the item is then what was being read.
   ELMX_EXTERNAL_ENTITY = 17,
   /// Never reported: no rule limits fraction digits.
   ELMX_FRACTION_DIGITS_EXCEEDED = 18,
