@@ -104,7 +104,7 @@ std::string with_content(ElementRow const& row, std::string const& content) {
 void expect_reports(std::string const& document, std::string const& reports) {
   SCOPED_TRACE(document);
   Reading<> strictly(document, strict());
-  EXPECT_EQ(reports.empty() ? 0 : std::stoi(reports), strictly.error);
+  EXPECT_EQ(first_code(reports), code_name(strictly.error));
   EXPECT_EQ(reports.substr(0, reports.find(',')), strictly.reader.reports());
   Reading<> tolerantly(document, tolerant());
   EXPECT_EQ(0, tolerantly.error);
@@ -112,12 +112,12 @@ void expect_reports(std::string const& document, std::string const& reports) {
   EXPECT_NE(61, tolerantly.top.chosen);
 }
 
-std::string report(int code, ElementRow const& row) { return std::to_string(code) + ' ' + row.tag; }
+std::string report(int code, ElementRow const& row) { return ::report(code, row.tag); }
 
 // What is told of an element that has something in it, but nothing that counts. A question looks for its
 // prompt alone; the others look before and behind the run of their children.
 std::string missing(ElementRow const& row) {
-  const std::string once = report(21, row);
+  const std::string once = report(lmx::ELMX_MANDATORY_ELEMENT_MISSING, row);
   return std::string(row.tag) == "P917_Question" ? once : once + ", " + once;
 }
 
@@ -135,9 +135,12 @@ TEST(EveryClass, MayBeEmptyUnlessItMustHaveChildren) {
   for_each_class([](ElementRow const& row, Kind kind) {
     const bool is_refused = kind == Kind::MandatoryChildren;
     const std::string empty_tag = start_of(row) + "/>";
-    expect_reports(empty_tag, is_refused ? report(32, row) + ", " + report(10, row) : "");
+    expect_reports(empty_tag, is_refused ? report(lmx::ELMX_UNEXPECTED_EMPTY_ELEMENT, row) + ", " +
+                                               report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
+                                         : "");
     for (char const* const nothing : {"", " \n\t", "<!-- c -->", "<?p i?>", "\n<!-- c --> <?p i?>\n"}) {
-      expect_reports(with_content(row, nothing), is_refused ? report(32, row) : "");
+      expect_reports(with_content(row, nothing),
+                     is_refused ? report(lmx::ELMX_UNEXPECTED_EMPTY_ELEMENT, row) : "");
     }
   });
 }
@@ -147,9 +150,10 @@ TEST(EveryClass, MayBeEmptyUnlessItMustHaveChildren) {
 TEST(EveryClass, RefusesTextUnlessItHoldsText) {
   for_each_class([](ElementRow const& row, Kind kind) {
     for (char const* const text : {"text", " text ", "<![CDATA[x]]>", "<![CDATA[]]>"}) {
-      const std::string reports = kind == Kind::Text                ? ""
-                                  : kind == Kind::MandatoryChildren ? missing(row) + ", " + report(10, row)
-                                                                    : report(10, row);
+      const std::string reports = kind == Kind::Text ? ""
+                                  : kind == Kind::MandatoryChildren
+                                      ? missing(row) + ", " + report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
+                                      : report(lmx::ELMX_BAD_END_OF_ELEMENT, row);
       expect_reports(with_content(row, text), reports);
     }
   });
@@ -162,7 +166,7 @@ TEST(EveryClass, MissesItsChildrenBehindStrangers) {
   for_each_class([](ElementRow const& row, Kind kind) {
     for (char const* const stranger : strangers) {
       const bool is_refused = kind == Kind::AttributesOnly || kind == Kind::Text;
-      expect_reports(with_content(row, stranger), is_refused                        ? report(10, row)
+      expect_reports(with_content(row, stranger), is_refused ? report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
                                                   : kind == Kind::MandatoryChildren ? missing(row)
                                                                                     : "");
     }
@@ -195,11 +199,13 @@ TEST(EveryClass, LosesNothingToStrangersAmongItsChildren) {
 TEST(EveryClass, IsNotReadBeyondItsStartTag) {
   for_each_class([](ElementRow const& row, Kind kind) {
     const std::string name = row.tag;
-    const std::string end = "34 " + name;
-    const std::string rest =
-        kind == Kind::MandatoryChildren ? missing(row) + ", " + report(10, row) : report(10, row);
+    const std::string end = ::report(lmx::ELMX_UNEXPECTED_EOM, name);
+    const std::string rest = kind == Kind::MandatoryChildren
+                                 ? missing(row) + ", " + report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
+                                 : report(lmx::ELMX_BAD_END_OF_ELEMENT, row);
     if (kind == Kind::Text) {
-      expect_reports(start_of(row) + '>', report(29, row) + ", " + report(10, row));
+      expect_reports(start_of(row) + '>', report(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE, row) + ", " +
+                                              report(lmx::ELMX_BAD_END_OF_ELEMENT, row));
     } else {
       expect_reports(start_of(row) + '>', end + ", " + rest);
     }
@@ -209,7 +215,8 @@ TEST(EveryClass, IsNotReadBeyondItsStartTag) {
 TEST(EveryClass, ThatMustHaveChildrenMissesOneThatIsCutOffInItsStartTag) {
   for_each_class([](ElementRow const& row, Kind kind) {
     if (kind != Kind::MandatoryChildren && kind != Kind::Children) return;
-    const int code = kind == Kind::MandatoryChildren ? 21 : 10;
+    const lmx::elmx_error code =
+        kind == Kind::MandatoryChildren ? lmx::ELMX_MANDATORY_ELEMENT_MISSING : lmx::ELMX_BAD_END_OF_ELEMENT;
     const std::string child = words(parents().at(row.tag).children).front();
     for (char const* const cut : {" ", "\n", " A='1'", " A='1' ", " A='1'B='2'"}) {
       const std::string document = start_of(row) + "><" + child + cut;
