@@ -54,8 +54,8 @@ class ISOXML_API InnerDevice {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -236,14 +236,14 @@ class ISOXML_API Device {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -295,8 +295,8 @@ class ISOXML_API InnerDeviceElement {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -422,14 +422,14 @@ class ISOXML_API DeviceElement {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -489,14 +489,14 @@ class ISOXML_API DeviceObjectReference {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -583,14 +583,14 @@ class ISOXML_API DeviceProcessData {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -675,14 +675,14 @@ class ISOXML_API DeviceProperty {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -766,14 +766,14 @@ class ISOXML_API DeviceValuePresentation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];

@@ -70,8 +70,9 @@ class constant_tables {
 
 // ---- Elements ----
 
-/// An element whose children must not be missing is refused with 32 when it is empty and with 21 when it
-/// holds something else. With this set to true an empty one would get past the helper.
+/// An element whose children must not be missing is refused with `ELMX_UNEXPECTED_EMPTY_ELEMENT` when it is
+/// empty and with `ELMX_MANDATORY_ELEMENT_MISSING` when it holds something else. With this set to true an
+/// empty one would get past the helper.
 inline constexpr bool mandatory_content_may_be_empty = false;
 
 /// How the content of an element class is read.
@@ -107,7 +108,8 @@ class element_helper final : public lmx::c_unmarshal_helper {
   lmx::xmlReader& mr_reader;
 };
 
-/// Reports 5 for an element that nests deeper than the stack allows; when that is tolerated, skips it.
+/// Reports `ELMX_BADLY_FORMED` for an element that nests deeper than the stack allows; when that is
+/// tolerated, skips it.
 lmx::elmx_error refuse_depth(lmx::xmlReader& reader, int line);
 
 /// Reads an element whose start tag has been seen. `collect`, when it is not null, hands the finished
@@ -142,7 +144,8 @@ lmx::elmx_error read_element(X& element, lmx::xmlReader& reader, std::string con
 
 /// Makes the reader ready for a document.
 void begin_document(lmx::xmlReader& reader);
-/// Reads the start tag of the document's top element, which must be `tag`: 16 when it is not.
+/// Reads the start tag of the document's top element, which must be `tag`: `ELMX_ELEMENT_NOT_FOUND` when it
+/// is not.
 lmx::elmx_error read_top_tag(lmx::xmlReader& reader, char const* tag, int line, std::string* name);
 
 /// Reads an element as the document's top element.
@@ -182,7 +185,7 @@ lmx::c_untyped_validation_spec const* accept_attribute(Field<T, V, C>& field,
   return &spec;
 }
 
-/// Reports 25 with the element's tag unless all required attributes came.
+/// Reports `ELMX_REQUIRED_ATTRIBUTES_MISSING` with the element's tag unless all required attributes came.
 lmx::elmx_error check_required(lmx::xmlReader& reader, char const* tag, int line, bool all_set);
 
 /// Reads the text of the current element, end tag included.
@@ -254,7 +257,7 @@ bool read_wrapper(lmx::xmlReader& reader, lmx::ct_complex_optional<W>& wrapper, 
   return true;
 }
 
-/// Reads the required simple child for `event`: 21 when another event came.
+/// Reads the required simple child for `event`: `ELMX_MANDATORY_ELEMENT_MISSING` when another event came.
 template <class Field, class T>
 bool read_required_child(lmx::xmlReader& reader, Field& field, lmx::c_validation_spec<T> const& spec,
                          int event, place const& at, lmx::elmx_error* error) {
@@ -299,7 +302,7 @@ bool read_list(lmx::xmlReader& reader, lmx::ct_complex_multi<Y>& list, int event
   return read_run(reader, list, event, at, error);
 }
 
-/// `read_run` where an empty run is 21.
+/// `read_run` where an empty run is `ELMX_MANDATORY_ELEMENT_MISSING`.
 template <class Y>
 bool read_mandatory_run(lmx::xmlReader& reader, lmx::ct_complex_multi<Y>& run, int event, place const& at,
                         lmx::elmx_error* error) {
@@ -333,7 +336,7 @@ lmx::elmx_error read_any_document(Choice& choice, lmx::xmlReader& reader, lmx::s
   return error;
 }
 
-/// Reports 31: what the document begins with is no element that could be read.
+/// Reports `ELMX_UNEXPECTED_COMPLEX_ELEMENT`: what the document begins with is no element that could be read.
 bool report_unknown_top_element(lmx::xmlReader& reader, int line, lmx::elmx_error* error);
 
 /// Reads the document's top element.
@@ -496,7 +499,8 @@ void write_text(lmx::c_xml_writer& writer, Field const& field, lmx::c_validation
 }
 
 /// Writes what a choice holds under the tag that `tags` has for it: row by row the alternatives, then the
-/// end. Nothing is written for `nothing_chosen`, the number of alternatives; any other number is error 7.
+/// end. Nothing is written for `nothing_chosen`, the number of alternatives; any other number is
+/// `ELMX_BAD_CHOICE`.
 lmx::elmx_error write_choice(lmx::c_xml_writer& writer, lmx::ct_choice const& held, std::int32_t chosen,
                              std::int32_t nothing_chosen, lmx::s_event_map const* tags, int line);
 

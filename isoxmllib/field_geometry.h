@@ -53,8 +53,8 @@ class ISOXML_API InnerField {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -364,14 +364,14 @@ class ISOXML_API Field {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -443,8 +443,8 @@ class ISOXML_API InnerPolygon {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -591,14 +591,14 @@ class ISOXML_API Polygon {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -654,8 +654,8 @@ class ISOXML_API InnerLineString {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -780,14 +780,14 @@ class ISOXML_API LineString {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -915,14 +915,14 @@ class ISOXML_API Point {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -981,8 +981,8 @@ class ISOXML_API InnerGuidanceGroup {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1091,14 +1091,14 @@ class ISOXML_API GuidanceGroup {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1147,8 +1147,8 @@ class ISOXML_API InnerGuidancePattern {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1352,14 +1352,14 @@ class ISOXML_API GuidancePattern {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1421,8 +1421,8 @@ class ISOXML_API InnerGuidanceAllocation {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1519,14 +1519,14 @@ class ISOXML_API GuidanceAllocation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1572,8 +1572,8 @@ class ISOXML_API InnerGuidanceShift {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1674,14 +1674,14 @@ class ISOXML_API GuidanceShift {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1764,14 +1764,14 @@ class ISOXML_API BaseStation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];

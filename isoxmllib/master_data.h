@@ -164,14 +164,14 @@ class ISOXML_API Grower {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -350,14 +350,14 @@ class ISOXML_API Farm {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -500,14 +500,14 @@ class ISOXML_API Worker {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -564,8 +564,8 @@ class ISOXML_API InnerProduct {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -746,14 +746,14 @@ class ISOXML_API Product {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -837,14 +837,14 @@ class ISOXML_API ProductGroup {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -914,14 +914,14 @@ class ISOXML_API ProductRelation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1011,14 +1011,14 @@ class ISOXML_API ValuePresentation {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1068,8 +1068,8 @@ class ISOXML_API InnerCropType {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1171,14 +1171,14 @@ class ISOXML_API CropType {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1248,14 +1248,14 @@ class ISOXML_API CropVariety {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1302,8 +1302,8 @@ class ISOXML_API InnerCulturalPractice {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1399,14 +1399,14 @@ class ISOXML_API CulturalPractice {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1468,14 +1468,14 @@ class ISOXML_API OperationTechnique {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1530,14 +1530,14 @@ class ISOXML_API OperationTechniqueReference {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1582,8 +1582,8 @@ class ISOXML_API InnerCodedComment {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1697,14 +1697,14 @@ class ISOXML_API CodedComment {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1768,14 +1768,14 @@ class ISOXML_API CoddedCommentGroup {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1837,14 +1837,14 @@ class ISOXML_API CodedCommentListValue {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -1890,8 +1890,8 @@ class ISOXML_API InnerColourLegend {
   /// True when the reader stands at one of the alternatives.
   static bool IsMember(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}
@@ -1987,14 +1987,14 @@ class ISOXML_API ColourLegend {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];
@@ -2062,14 +2062,14 @@ class ISOXML_API ColourRange {
   lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);
   /// True when all required attributes are set.
   bool has_required_attributes() const;
-  /// 25 unless they are.
+  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.
   lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);
   bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);
   /// Writes this element under the tag `name`. On an error the document stays cut off where it is.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes every required attribute, set or not, and each optional one that is set.
   void marshal_attributes(lmx::c_xml_writer& writer) const;
-  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.
+  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.
   lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
 
   static lmx::s_event_map const attr_event_map[];

@@ -108,8 +108,8 @@ class ISOXML_API Root {
   /// Reads a document, whatever element it begins with.
   lmx::elmx_error unmarshal(lmx::xmlReader& reader);
   bool unmarshal(lmx::xmlReader& reader, lmx::elmx_error* error);
-  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a
-  /// `chosen` that is no alternative.
+  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;
+  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.
   lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;
   /// Writes nothing: a choice has no attributes.
   void marshal_attributes(lmx::c_xml_writer&) const {}

@@ -27,10 +27,10 @@ inline constexpr unsigned no_max_length = std::numeric_limits<unsigned>::max();
 
 /// Limits of a text, tested in this order.
 struct text_rule {
-  bool (*is_valid)(std::string const& text);  ///< The form (35); null for any.
-  unsigned min_length;                        ///< In characters (20).
-  unsigned max_length;                        ///< In characters (19); `no_max_length` for any.
-  lmx::c_regex const& (*pattern)();           ///< What the whole text must match (22); null for anything.
+  bool (*is_valid)(std::string const& text);  ///< Else `ELMX_VALUE_BAD_FORMAT`; null for any form.
+  unsigned min_length;                        ///< In characters, else `ELMX_LENGTH_TOO_SHORT`.
+  unsigned max_length;                        ///< Else `ELMX_LENGTH_TOO_LONG`; `no_max_length` for any.
+  lmx::c_regex const& (*pattern)();           ///< Of all of it, else `ELMX_NO_PATTERN_MATCHED`; or null.
 };
 
 /// Reports `code` for the value now being read.
@@ -40,15 +40,17 @@ inline lmx::elmx_error report_value(lmx::c_xml_reader& reader, lmx::elmx_error c
 
 lmx::elmx_error check_text(lmx::c_xml_reader& reader, std::string const& text, text_rule const& rule);
 
-/// An integer (35) from `minimum` (37) to `maximum` (36), compared as text: no length overflows.
+/// An integer (else `ELMX_VALUE_BAD_FORMAT`) from `minimum` (`ELMX_VALUE_EXCEEDS_MIN`) to `maximum`
+/// (`ELMX_VALUE_EXCEEDS_MAX`), compared as text: no length overflows.
 lmx::elmx_error check_integer(lmx::c_xml_reader& reader, std::string const& text,
                               lmx::c_big_int const& minimum, lmx::c_big_int const& maximum);
 
-/// A size in bytes from `minimum` (20) to `maximum` (19).
+/// A size in bytes from `minimum` (else `ELMX_LENGTH_TOO_SHORT`) to `maximum` (`ELMX_LENGTH_TOO_LONG`).
 lmx::elmx_error check_size(lmx::c_xml_reader& reader, std::size_t size, std::size_t minimum,
                            std::size_t maximum);
 
-/// A value from `minimum` (37) to `maximum` (36). A value that compares with nothing fails both.
+/// A value from `minimum` (else `ELMX_VALUE_EXCEEDS_MIN`) to `maximum` (`ELMX_VALUE_EXCEEDS_MAX`). A value
+/// that compares with nothing fails both.
 template <class T>
 lmx::elmx_error check_range(lmx::c_xml_reader& reader, T const& value, T const& minimum, T const& maximum) {
   if (!(value >= minimum)) {
@@ -68,7 +70,7 @@ struct enumerated {
 template <std::size_t N>
 using enumeration = std::array<enumerated, N>;
 
-/// The code of `text`; 0 when it is none of the list.
+/// The code of `text`; `elmx_enum_none` when it is none of the list.
 template <std::size_t N>
 elmx_enums enum_code(enumeration<N> const& list, std::string_view text) {
   for (enumerated const& row : list) {
@@ -88,7 +90,7 @@ bool set_enum(enumeration<N> const& list, elmx_enums code, Field& field) {
   return false;
 }
 
-/// A text of the list (38).
+/// A text of the list, else `ELMX_VALUE_NOT_ENUMERATED`.
 template <std::size_t N>
 lmx::elmx_error check_one_of(lmx::c_xml_reader& reader, std::string const& value,
                              enumeration<N> const& list) {

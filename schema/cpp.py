@@ -143,8 +143,8 @@ def declare_alternative(alternative):
 
 def declare_choice_marshal():
     return [
-        "  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`; 7 for a",
-        "  /// `chosen` that is no alternative.",
+        "  /// Writes what is held under its own tag; `name` is ignored. Nothing for `NothingChosen`;",
+        "  /// `ELMX_BAD_CHOICE` for a `chosen` that is no alternative.",
         "  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;",
         "  /// Writes nothing: a choice has no attributes.",
         "  void marshal_attributes(lmx::c_xml_writer&) const {}",
@@ -236,14 +236,14 @@ def declare_element(element):
         "  lmx::c_untyped_validation_spec const* accept_attribute(lmx::plain_attribute const& attribute);",
         "  /// True when all required attributes are set.",
         "  bool has_required_attributes() const;",
-        "  /// 25 unless they are.",
+        "  /// `ELMX_REQUIRED_ATTRIBUTES_MISSING` unless they are.",
         "  lmx::elmx_error unmarshal_attributes_check(lmx::xmlReader& reader);",
         "  bool unmarshal_body(lmx::xmlReader& reader, lmx::elmx_error* error);",
         "  /// Writes this element under the tag `name`. On an error the document stays cut off where it is.",
         "  lmx::elmx_error marshal(lmx::c_xml_writer& writer, char const* name) const;",
         "  /// Writes every required attribute, set or not, and each optional one that is set.",
         "  void marshal_attributes(lmx::c_xml_writer& writer) const;",
-        "  /// Writes the content. 7 when a wrapper's `chosen` is none of its alternatives.",
+        "  /// Writes the content. `ELMX_BAD_CHOICE` when a wrapper's `chosen` is none of its alternatives.",
         "  lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;",
         "",
         "  static lmx::s_event_map const attr_event_map[];",
@@ -739,6 +739,9 @@ def validators_header(schema):
     types = {value.type for _, value in values}
     lines = banner("schema/rules.toml") + ["// The checks of every simple type, text first and then value. Each reports through the reader's",
                                            "// `report_error` with the item `m_name`; a report that is tolerated lets it go on to its next test.",
+                                           "// Each limit has its code: a form ELMX_VALUE_BAD_FORMAT, a length ELMX_LENGTH_TOO_SHORT and",
+                                           "// ELMX_LENGTH_TOO_LONG, a pattern ELMX_NO_PATTERN_MATCHED, a range ELMX_VALUE_EXCEEDS_MIN and",
+                                           "// ELMX_VALUE_EXCEEDS_MAX, a list ELMX_VALUE_NOT_ENUMERATED.",
                                            "#pragma once", "", "#include <string>", ""]
     lines += includes(["GenLibrarySupportFiles/lmxparse/c_xml_reader.h"]
                       + sorted(TYPE_HEADERS[name] for name in types if name in TYPE_HEADERS)) + [""]
@@ -753,11 +756,11 @@ def validators_header(schema):
 
 
 def lexical_doc(rule):
-    words = [f"{rule.form} (35)" if rule.form else None,
-             f"at least {rule.min_length} characters (20)" if rule.min_length is not None else None,
-             f"at most {rule.max_length} characters (19)" if rule.max_length is not None else None,
-             f"pattern {rule.pattern} (22)" if rule.pattern else None,
-             f"from {rule.minimum} (37) to {rule.maximum} (36)" if rule.minimum is not None else None]
+    words = [f"{rule.form}" if rule.form else None,
+             f"at least {rule.min_length} characters" if rule.min_length is not None else None,
+             f"at most {rule.max_length} characters" if rule.max_length is not None else None,
+             f"pattern {rule.pattern}" if rule.pattern else None,
+             f"from {rule.minimum} to {rule.maximum}" if rule.minimum is not None else None]
     words = [word for word in words if word]
     text = ", ".join(words) if words else "accepts every text"
     return text[0].upper() + text[1:] + "."
@@ -765,11 +768,11 @@ def lexical_doc(rule):
 
 def value_rule_doc(rule):
     if rule.one_of:
-        return "One of " + ", ".join(f'"{text}"' for text in rule.one_of) + " (38)."
+        return "One of " + ", ".join(f'"{text}"' for text in rule.one_of) + "."
     if rule.min_bytes is not None:
-        return f"From {rule.min_bytes} (20) to {rule.max_bytes} bytes (19)."
+        return f"From {rule.min_bytes} to {rule.max_bytes} bytes."
     if rule.low is not None:
-        return f"From {rule.low} (37) to {rule.high} (36)."
+        return f"From {rule.low} to {rule.high}."
     return "Accepts every value."
 
 

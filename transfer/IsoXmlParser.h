@@ -45,7 +45,8 @@ struct IsoDocument {
 /// Errors: none is thrown. Each document that failed is in `getErrors`, and the others stand without it; but
 /// when the main document fails, nothing else is opened. FIFOs, sockets and devices are not opened. One file
 /// is opened at most 16 times for a set, counted as main document, link list and external file together and
-/// under whatever names; each further reference to it fails with code 1. Different files are not limited.
+/// under whatever names; each further reference to it fails with `ELMX_NO_FILE`. Different files are not
+/// limited.
 /// Ownership: the parser owns all documents. Pointers that it hands out die with it, save the metadata's.
 /// Threads: one at a time. Each held document keeps its file open until destruction.
 class ISOXML_API IsoXmlParser {

@@ -46,7 +46,7 @@ struct c_validation_spec : c_untyped_validation_spec {
   bool (*mp_accept)(T& value, plain_text_view text);
 };
 
-/// For a type without content: any text is error 35.
+/// For a type without content: any text is `ELMX_VALUE_BAD_FORMAT`.
 ISOXML_API elmx_error lexical_validator_empty(c_xml_reader& reader, std::string const& text);
 
 /// Accepts every value.
@@ -75,7 +75,8 @@ class ISOXML_API c_untyped_unmarshal_bridge {
   virtual void mark_value_set() = 0;
   /// The text of a mixed-content value; stops the process for any other.
   virtual std::string& ref_text() = 0;
-  /// Reads the element's text into the reader's `m_value`; 29 when that fails.
+  /// Reads the element's text into the reader's `m_value`; `ELMX_UNABLE_TO_READ_ELEMENT_VALUE` when that
+  /// fails.
   virtual elmx_error read_body() = 0;
   /// Turns text into the field's value and checks it. The field counts as set even when the check fails.
   virtual elmx_error convert(std::string const& text) = 0;

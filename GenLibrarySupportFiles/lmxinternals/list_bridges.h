@@ -23,7 +23,8 @@ class ISOXML_API c_untyped_unmarshal_list_bridge {
   virtual void mark_value_set() = 0;
   /// The text of a mixed-content value; stops the process for any other.
   virtual std::string& ref_text() = 0;
-  /// Reads the element's text into the reader's `m_value`; 29 when that fails.
+  /// Reads the element's text into the reader's `m_value`; `ELMX_UNABLE_TO_READ_ELEMENT_VALUE` when that
+  /// fails.
   virtual elmx_error read_body() = 0;
   /// Turns one token into an item, adds it to the list and checks it. It stays even when the check fails.
   virtual elmx_error add_item(std::string const& token) = 0;

@@ -36,11 +36,12 @@ class ISOXML_API c_unmarshal_helper {
 
   // Each reads one whole element. `file`, which is constant text, and `line` go into error records.
 
-  /// An element with attributes only. Anything but white space, comments and instructions in it is 10.
+  /// An element with attributes only. Anything but white space, comments and instructions in it is
+  /// `ELMX_BAD_END_OF_ELEMENT`.
   elmx_error unmarshal_empty_content(char const* file, int line);
   /// An element with text content.
   elmx_error unmarshal_simple_content(char const* file, int line);
-  /// An element with children. Empty where that is not allowed: 32.
+  /// An element with children. Empty where that is not allowed: `ELMX_UNEXPECTED_EMPTY_ELEMENT`.
   elmx_error unmarshal_complex_content(char const* file, int line);
 
   // State, in the order of construction. A derived class may read all of it; it sets the last two before one
@@ -73,7 +74,7 @@ class ISOXML_API c_unmarshal_helper {
   elmx_error unmarshal_simple_content_case();
   /// The same for children, by `unmarshal_complex_body`, and drops what it leaves over.
   elmx_error unmarshal_complex_content_case();
-  /// Reads the element's end tag, unless the end is there; anything else is 10.
+  /// Reads the element's end tag, unless the end is there; anything else is `ELMX_BAD_END_OF_ELEMENT`.
   elmx_error verify_element_end();
 
  private:

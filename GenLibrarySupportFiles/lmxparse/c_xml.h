@@ -116,8 +116,9 @@ class ISOXML_API c_xml {
     }
   }
   /// The next captured attribute: EXE_TOKEN with its name. After the last one the end of the tag is read:
-  /// EXE_START_TAG_END or EXE_ELEMENT_END ("?>" when `in_decl`), or EXE_ERROR with 23. Asked for again before
-  /// the value was read or skipped, it takes that for a name: the quote and the value as it stands.
+  /// EXE_START_TAG_END or EXE_ELEMENT_END ("?>" when `in_decl`), or EXE_ERROR with `ELMX_NOT_WELL_FORMED`.
+  /// Asked for again before the value was read or skipped, it takes that for a name: the quote and the value
+  /// as it stands.
   elxp_xml_event get_attribute_name(std::string* name, bool in_decl);
   /// What `get_attribute_name` gives where no attribute is left and the tag's end lies in the source's
   /// buffer; else EXE_UNKNOWN, with nothing changed.
@@ -154,14 +155,15 @@ class ISOXML_API c_xml {
     m_plain_next = static_cast<std::size_t>(up_to - m_plain);
   }
   /// The text of the element whose start tag has ended, up to the first tag; comments and instructions
-  /// vanish. False with 34 at the end of the input, 23 for a bad "<!", nothing for a bad reference.
+  /// vanish. False with `ELMX_UNEXPECTED_EOM` at the end of the input, `ELMX_NOT_WELL_FORMED` for a bad "<!",
+  /// nothing for a bad reference.
   bool get_element_value(std::string* out, elmx_whitespace mode, bool expand_entities);
   /// Reads white space and the end tag of `name`. Reports nothing.
   bool is_element_end_tag(std::string const& name);
   /// Reads to the end of the element `name`, which must have no content but white space.
   bool skip_rest_of_empty_element(std::string const& name);
   /// Reads to the end of the element `name` from inside its start tag. An end tag that does not match is
-  /// error 23. Nesting costs heap, one name a level, and no stack.
+  /// `ELMX_NOT_WELL_FORMED`. Nesting costs heap, one name a level, and no stack.
   bool skip_rest_of_element(std::string const& name);
   /// The same from behind the start tag.
   bool skip_element_body(std::string const& name);

@@ -146,7 +146,7 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
     get_element_event(map, error, name);
   }
 
-  /// Skips the rest of the element `m_name` (5 when that fails) and reads the next event.
+  /// Skips the rest of the element `m_name` (`ELMX_BADLY_FORMED` when that fails) and reads the next event.
   elmx_error ignore_element(s_event_map const* map);
   /// Reads the end tag of `name`. `*event` is what came instead, if it did.
   bool get_end_tag(s_event_map const* map, std::string const& name, int* event, elmx_error* error);
@@ -158,15 +158,17 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   bool get_simple_type_value(std::string const& name, elmx_whitespace mode, std::string* value,
                              elmx_error* error, bool* is_empty);
 
-  /// Records an error. 34 after a fatal report becomes that report's code. Returns the code recorded.
+  /// Records an error. `ELMX_UNEXPECTED_EOM` after a fatal report becomes that report's code. Returns the
+  /// code recorded.
   elmx_error capture_error(elmx_error code, std::string const& item, char const* file, int line);
   /// Records an error and lets `handle_error` decide. Returns its verdict.
   elmx_error report_error(elmx_error code, std::string const& item, char const* file, int line);
   /// `report_error` with the item "@" and the current name.
   elmx_error report_attribute_error(elmx_error code);
 
-  /// Reads the value of the attribute `m_name` into the bridge's field: 3 when it is set already, 28 when
-  /// it can not be read, then whatever the validators say.
+  /// Reads the value of the attribute `m_name` into the bridge's field: `ELMX_ATTRIBUTE_ALREADY_READ` when it
+  /// is set already, `ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE` when it can not be read, then whatever the
+  /// validators say.
   elmx_error unmarshal_attribute_value_impl(c_untyped_unmarshal_bridge& bridge,
                                             c_untyped_validation_spec const& spec);
   /// Reads the text and the end tag of the element `m_name` into the bridge's field.
@@ -204,7 +206,9 @@ class ISOXML_API c_xml_reader : protected detail::c_reader_error, public c_xml {
   bool is_valid_qname(std::string const& text) const;
   /// Content as text up to the element's end tag, whose name is stored. Nothing when the element has ended.
   bool get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode, bool unused);
-  /// The whole content of the element `name` as text (XSD anyType): 11, 29 or 10 in `*error` when it fails.
+  /// The whole content of the element `name` as text (XSD anyType). What fails is in `*error`: the start tag
+  /// as `ELMX_BAD_END_OF_START_TAG`, the content as `ELMX_UNABLE_TO_READ_ELEMENT_VALUE`, the end tag as
+  /// `ELMX_BAD_END_OF_ELEMENT`.
   bool get_element_ur_value(std::string const& name, std::string* value, elmx_error* error, bool* is_empty);
 
   // The state that element classes read and set while a document is read.

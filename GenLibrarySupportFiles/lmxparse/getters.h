@@ -106,7 +106,8 @@ class ISOXML_API c_get_as_utf8 {
   void clear_external_transcoder_factory() { mp_factory = nullptr; }
 
   /// Applies the name of an XML declaration to the encoding found from the bytes. A name that does not
-  /// fit them is fatal 15, an unknown one fatal 6; the result is then false.
+  /// fit them is a fatal `ELMX_ENCODING_MISMATCH`, an unknown one a fatal `ELMX_BAD_CHAR_ENCODING`; the
+  /// result is then false.
   bool set_encoding(char const* name);
 
   /// What lies ready in the source's buffer and may be scanned without `get`; empty when there is anything
@@ -276,8 +277,8 @@ class ISOXML_API c_get_with_entities : public c_get_as_utf8 {
   /// surrogates included.
   bool insert_character_entity(c_entity_name_reader& reader, std::string* out);
   /// Makes `value` the next input, markup included. It is borrowed until it is read to its end or the
-  /// document starts again. False, with a fatal 9, while that very text is being read already, and for too
-  /// much of it.
+  /// document starts again. False, with a fatal `ELMX_BAD_DTD`, while that very text is being read already,
+  /// and for too much of it.
   bool set_input_entity_value(char const* value);
 
  private:
@@ -313,16 +314,17 @@ class ISOXML_API c_get_for_xml : public c_get_with_entities {
   bool read_specified_string_from_input(char const* text);
   /// Reads a quoted text, without expanding references. False when there is none, or no closing quote.
   bool get_simple_quoted_value(std::string* out);
-  /// Entered after "<!--". A comment that ends in more than two hyphens is warned of with code 8.
-  /// False at the end of the input.
+  /// Entered after "<!--". A comment that ends in more than two hyphens is warned of, with
+  /// `ELMX_BAD_COMMENT`. False at the end of the input.
   bool skip_comment();
   /// Entered after "<?name". False at the end of the input.
   bool skip_PI();
   /// Reads to the end of a start tag, minding quotes. `is_empty` may be null; true is stored for "/>".
-  /// Something other than white space after the "/" is error 12, reported once, and gives false.
+  /// Something other than white space after the "/" is `ELMX_BAD_END_TAG`, reported once, and gives false.
   bool move_to_start_tag_end(bool* is_empty);
-  /// Entered after "<?xml" and one white space character. False when the declaration is damaged: 13 for a
-  /// missing version, 14 for one that is not 1.0 or 1.1, nothing for the rest.
+  /// Entered after "<?xml" and one white space character. False when the declaration is damaged:
+  /// `ELMX_BAD_XML_DECL` for a missing version, `ELMX_BAD_XML_VERSION` for one that is not 1.0 or 1.1,
+  /// nothing for the rest.
   bool read_xml_decl();
   void rewind();
 

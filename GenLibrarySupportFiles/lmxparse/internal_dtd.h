@@ -16,7 +16,8 @@ class ISOXML_API c_dtd_util {
   /// `getter` is borrowed and must outlive the object.
   explicit c_dtd_util(c_get_for_xml& getter) : mp_getter(&getter) {}
 
-  /// Entered after "%". The entity's text is what is read next. An unknown name is error 41 and passed over.
+  /// Entered after "%". The entity's text is what is read next. An unknown name is `ELMX_ENTITY_NOT_FOUND`
+  /// and passed over.
   bool select_parameter_entity();
   /// Reads a word, up to white space or ">". False at the end of the input.
   bool get_entity_value(std::string* out);
@@ -32,8 +33,8 @@ class ISOXML_API c_internal_dtd : public c_dtd_util {
  public:
   using c_dtd_util::c_dtd_util;
 
-  /// Entered after "<!DOCTYPE". Enters the entities that are declared. False for bad syntax, which is fatal
-  /// 9, and at the end of the input, which is not reported.
+  /// Entered after "<!DOCTYPE". Enters the entities that are declared. False for bad syntax, a fatal
+  /// `ELMX_BAD_DTD`, and at the end of the input, which is not reported.
   bool read_doctype_decl();
   void reset() {}
 

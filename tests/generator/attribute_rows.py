@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Writes the rows of the attribute test as C++: for every attribute of every element a document that sets it, one
-that repeats it, one that leaves it out, and one for each way to break its rule.
+that repeats it, one that leaves it out, and one for each way to break its rule; and for an enumerated one its codes.
 
     attribute_rows.py OUTPUT
 """
@@ -56,20 +56,34 @@ def raw(text):
     return f'R"~({text})~"'
 
 
+def coded(schema, element, value):
+    """How to set and get the value by code, and each text of its list with its code."""
+    if not value.rule.one_of:
+        return "nullptr, nullptr, {}"
+    name, field = element.name, value.field
+    by_code = (f"[](elmx_enums code) {{ {name} element; const bool taken = element.Setenum{field}(code); return Coded{{taken, "
+               f"element.Isset{field}(), element.Getenum{field}(), element.Get{field}()}}; }}")
+    by_text = (f"[](char const* text, elmx_enums code) {{ {name} element; element.Set{field}(text); const elmx_enums found = "
+               f"element.Getenum{field}(); const bool taken = element.Setenum{field}(code); "
+               f"return Coded{{taken, element.Isset{field}(), found, element.Get{field}()}}; }}")
+    texts = ", ".join(f'{{{schema.enums.index(text) + 1}, "{text}"}}' for text in value.rule.one_of)
+    return f"{by_code}, {by_text}, {{{texts}}}"
+
+
 def row(documents, element, value):
     good = canonical(value)
     others = documents.start(element, skip=value)
     with_it = documents.document(element, others + [(value.xml, good)])
     repeated = documents.document(element, others + [(value.xml, good), (value.xml, good)])
     without = documents.document(element, others)
-    bad = ", ".join(f'{{"{what}", {raw(documents.document(element, others + [(value.xml, text)]))}, {code}}}'
+    bad = ", ".join(f'{{"{what}", {raw(documents.document(element, others + [(value.xml, text)]))}, lmx::{code}}}'
                     for what, text, code in values.bad(value))
     edges = ", ".join(raw(documents.document(element, others + [(value.xml, text)])) for text in values.edges(value))
     name = element.name
     getter = (f"[](Root const& root) {{ {name} const& element = root.Get{name}(); "
               f"return std::make_pair(element.Isset{value.field}(), shown(element.Get{value.field}())); }}")
     return (f'    {{"{element.tag}", "{value.xml}", {str(value.use == "required").lower()}, {raw(good)}, {raw(with_it)}, '
-            f"{raw(repeated)}, {raw(without)}, {getter}, {{{edges}}}, {{{bad}}}}},")
+            f"{raw(repeated)}, {raw(without)}, {getter}, {{{edges}}}, {{{bad}}}, {coded(documents.schema, element, value)}}},")
 
 
 def main():

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Writes the rows of the writing test as C++: for every class what a new object is written as, and a document of it
-with everything that it can hold, laid out as the library does it; and every class that holds a choice.
+with everything that it can hold, laid out as the library does it; every class that holds a choice; and the name
+tables of every class.
 
     element_rows.py OUTPUT
 """
@@ -109,13 +110,25 @@ def for_each_macros(schema):
             + macro("FOR_EACH_SINGLE", [(choice, row.name) for choice, row in alternatives if row.held == "one"]))
 
 
+def table_row(name, attributes, wrapper):
+    return f'    {{"{name}", {attributes}, {name}::elem_event_map, {name}::known_elements, {wrapper}}},'
+
+
+def element_table_row(element):
+    wrapper = f"Inner{element.name}::elem_event_map" if element.alternatives else "nullptr"
+    return table_row(element.name, f"{element.name}::attr_event_map", wrapper)
+
+
 def main():
     schema = model.load()
     elements = schema.elements.values()
     lines = ["inline const std::vector<ElementRow> element_rows = {"] + [element_row(element) for element in elements] + ["};"]
     lines += ["inline const std::vector<ChoiceRow> choice_rows = {"]
     lines += [choice_row(f"Inner{element.name}", len(element.alternatives)) for element in elements if element.alternatives]
-    lines += [choice_row("Root", len(schema.root)), "};"] + for_each_macros(schema)
+    lines += [choice_row("Root", len(schema.root)), "};"]
+    lines += ["inline const std::vector<TableRow> table_rows = {"] + [element_table_row(element) for element in elements]
+    lines += [table_row("Root", "nullptr", "nullptr"), "};"]
+    lines += for_each_macros(schema)
     Path(sys.argv[1]).write_text("\n".join(lines) + "\n", encoding="utf-8")
 
 

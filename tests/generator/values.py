@@ -7,7 +7,10 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "schema"))
 import model  # noqa: E402,F401
 
-BAD_FORM, TOO_SHORT, TOO_LONG, NO_PATTERN, ABOVE, BELOW, NOT_LISTED = 35, 20, 19, 22, 36, 37, 38
+# The library's codes, by name.
+BAD_FORM, TOO_SHORT, TOO_LONG = "ELMX_VALUE_BAD_FORMAT", "ELMX_LENGTH_TOO_SHORT", "ELMX_LENGTH_TOO_LONG"
+NO_PATTERN, NOT_LISTED = "ELMX_NO_PATTERN_MATCHED", "ELMX_VALUE_NOT_ENUMERATED"
+ABOVE, BELOW = "ELMX_VALUE_EXCEEDS_MAX", "ELMX_VALUE_EXCEEDS_MIN"
 
 WORDS = ["North", "Long Meadow", "Mill Hill", "Kr\u00f6tenbruch", "spring barley", "Oak & Ash", "5 < 6", "a \"quoted\" name",
          "\u7530", "first cut"]

@@ -1,9 +1,10 @@
 // Every attribute of every element, one at a time: read, repeated, left out, and refused for each way in
-// which its text can break its rule. The rows come from the description of the format.
+// which its text can break its rule; and the codes of those with a list. The rows come from the description
+// of the format.
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,7 +28,18 @@ std::string shown(velmo::lmx::high_precision_c_decimal const& value) { return va
 struct Fault {
   char const* what;
   char const* document;
-  int code;
+  lmx::elmx_error code;
+};
+
+/// An enumerated attribute of a new object after a call: whether the call took the code, and what is there.
+struct Coded {
+  bool taken;
+  bool is_set;
+  elmx_enums code;
+  std::string text;
+  friend bool operator==(Coded const& a, Coded const& b) {
+    return a.taken == b.taken && a.is_set == b.is_set && a.code == b.code && a.text == b.text;
+  }
 };
 
 struct AttributeRow {
@@ -41,6 +53,9 @@ struct AttributeRow {
   std::pair<bool, std::string> (*get)(Root const& root);
   std::vector<char const*> at_the_limits;
   std::vector<Fault> faults;
+  Coded (*by_code)(elmx_enums code);                    // null where there is no list
+  Coded (*by_text)(char const* text, elmx_enums code);  // the text and its code, after setting a code
+  std::map<int, std::string> texts;
 };
 
 std::vector<AttributeRow> const& rows() {
@@ -51,7 +66,7 @@ std::vector<AttributeRow> const& rows() {
 }
 
 struct Outcome {
-  int code;
+  lmx::elmx_error code;
   std::string item;
 };
 
@@ -98,7 +113,7 @@ TEST_F(Attributes, AreReadAtTheVeryLimitsOfTheirRule) {
 TEST_F(Attributes, AreRefusedWhenRepeated) {
   for_each_row([&](AttributeRow const& row, Root& root) {
     const Outcome outcome = read(root, row.repeated);
-    EXPECT_EQ(3, outcome.code) << row.repeated;
+    EXPECT_EQ(lmx::ELMX_ATTRIBUTE_ALREADY_READ, outcome.code) << row.repeated;
     EXPECT_EQ(std::string("@") + row.attribute, outcome.item);
   });
 }
@@ -106,7 +121,8 @@ TEST_F(Attributes, AreRefusedWhenRepeated) {
 TEST_F(Attributes, AreMissedOnlyWhenRequired) {
   for_each_row([&](AttributeRow const& row, Root& root) {
     const Outcome outcome = read(root, row.without);
-    EXPECT_EQ(row.is_required ? 25 : 0, outcome.code) << row.without;
+    EXPECT_EQ(row.is_required ? lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING : lmx::ELMX_OK, outcome.code)
+        << row.without;
     EXPECT_EQ(row.is_required ? row.tag : "", outcome.item);
     EXPECT_FALSE(row.get(root).first);
   });
@@ -121,6 +137,27 @@ TEST_F(Attributes, AreRefusedForEachWayToBreakTheirRule) {
       EXPECT_EQ(row.attribute, outcome.item) << fault.what;
     }
   });
+}
+
+TEST_F(Attributes, TakeTheCodesOfTheirOwnTextsAlone) {
+  int enumerated = 0;
+  for_each_row([&](AttributeRow const& row, Root&) {
+    if (row.by_code == nullptr) return;
+    ++enumerated;
+    for (int number = -1; number < 30; ++number) {
+      SCOPED_TRACE(number);
+      const auto code = static_cast<elmx_enums>(number);
+      const auto listed = row.texts.find(number);
+      if (listed == row.texts.end()) {
+        EXPECT_EQ((Coded{false, false, elmx_enum_none, ""}), row.by_code(code));
+        EXPECT_EQ((Coded{false, true, elmx_enum_none, "kept"}), row.by_text("kept", code));
+      } else {
+        EXPECT_EQ((Coded{true, true, code, listed->second}), row.by_code(code));
+        EXPECT_EQ((Coded{true, true, code, listed->second}), row.by_text(listed->second.c_str(), code));
+      }
+    }
+  });
+  EXPECT_EQ(29, enumerated);
 }
 
 }  // namespace

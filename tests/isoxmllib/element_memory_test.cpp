@@ -12,6 +12,7 @@
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "GenLibrarySupportFiles/lmxtypes.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/element_rows.h"
 #include "support/failing_memory.h"
 #include "support/memory_read.h"
 #include "support/writing.h"
@@ -22,22 +23,6 @@ namespace {
 using lmx::c_xml_writer;
 using memory::expect_survives;
 using memory::expect_unchanged;
-
-struct ElementRow {
-  char const* tag;
-  void (*select)(Root& root);
-  lmx::elmx_error (*marshal)(Root const& root, c_xml_writer& writer);
-  char const* new_object;
-  char const* filled;
-};
-
-struct ChoiceRow {
-  char const* name;
-  std::int32_t nothing_chosen;
-  lmx::elmx_error (*marshal)(c_xml_writer& writer, std::int32_t chosen);
-};
-
-#include "element_rows.inc"
 
 lmx::elmx_error read(Root& root, MemoryRead& document) {
   document.rewind();

@@ -87,9 +87,12 @@ TEST(Encodings, ThatDoNotFitTheBytesAreRefused) {
     int code;
   };
   const Case cases[] = {
-      {"UTF-8", "\xFF\xFE", Width::Utf16Le, 15}, {"ISO-8859-1", "\xFE\xFF", Width::Utf16Be, 15},
-      {"US-ASCII", "", Width::Utf16Le, 15},      {"UTF-16", "", Width::Utf8, 15},
-      {"ISO-10646-UCS-2", "", Width::Utf8, 15},  {"KOI8-R", "", Width::Utf8, 6},
+      {"UTF-8", "\xFF\xFE", Width::Utf16Le, lmx::ELMX_ENCODING_MISMATCH},
+      {"ISO-8859-1", "\xFE\xFF", Width::Utf16Be, lmx::ELMX_ENCODING_MISMATCH},
+      {"US-ASCII", "", Width::Utf16Le, lmx::ELMX_ENCODING_MISMATCH},
+      {"UTF-16", "", Width::Utf8, lmx::ELMX_ENCODING_MISMATCH},
+      {"ISO-10646-UCS-2", "", Width::Utf8, lmx::ELMX_ENCODING_MISMATCH},
+      {"KOI8-R", "", Width::Utf8, lmx::ELMX_BAD_CHAR_ENCODING},
   };
   for (Case const& row : cases) {
     EXPECT_EQ(row.code, read_document(row.mark + encoded(document(row.encoding, U"x"), row.width)).code)
@@ -105,13 +108,15 @@ TEST(Encodings, PairsOfUtf16MustBeWhole) {
   Root root;
   EXPECT_EQ(0, read_document(root, with_units(std::string("\x00\xDC", 2))).code) << "a low half alone passes";
   EXPECT_EQ("\xED\xB0\x80", root.GetTask().GetDesignator());
-  EXPECT_EQ(6, read_document(with_units(std::string("\x00\xD8x\x00", 4))).code)
+  EXPECT_EQ(lmx::ELMX_BAD_CHAR_ENCODING, read_document(with_units(std::string("\x00\xD8x\x00", 4))).code)
       << "a high half alone is fatal";
 }
 
 TEST(Encodings, AMarkNeedsAnAsciiCharacterBehindIt) {
-  EXPECT_EQ(6, read_document("\xFF\xFE" + encoded(U"\u7530<TSK/>", Width::Utf16Le)).code);
-  EXPECT_EQ(6, read_document("\xFE\xFF" + encoded(U"\u7530<TSK/>", Width::Utf16Be)).code);
+  EXPECT_EQ(lmx::ELMX_BAD_CHAR_ENCODING,
+            read_document("\xFF\xFE" + encoded(U"\u7530<TSK/>", Width::Utf16Le)).code);
+  EXPECT_EQ(lmx::ELMX_BAD_CHAR_ENCODING,
+            read_document("\xFE\xFF" + encoded(U"\u7530<TSK/>", Width::Utf16Be)).code);
 }
 
 TEST(Encodings, OtherLineEndsBecomeLineFeeds) {

@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstdint>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -14,27 +12,13 @@
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/element_rows.h"
+#include "support/file_bytes.h"
 #include "support/memory_read.h"
 #include "support/recording_reader.h"
 #include "support/writing.h"
 
 namespace {
-
-struct ElementRow {
-  char const* tag;
-  void (*select)(Root& root);
-  lmx::elmx_error (*marshal)(Root const& root, lmx::c_xml_writer& writer);
-  char const* new_object;
-  char const* filled;
-};
-
-struct ChoiceRow {
-  char const* name;
-  std::int32_t nothing_chosen;
-  lmx::elmx_error (*marshal)(lmx::c_xml_writer& writer, std::int32_t chosen);
-};
-
-#include "element_rows.inc"
 
 using Names = std::vector<std::string>;
 
@@ -121,7 +105,7 @@ std::string with_content(ElementRow const& row, std::string const& content) {
 void expect_reports(std::string const& document, std::string const& reports) {
   SCOPED_TRACE(document);
   Reading<> strictly(document, strict());
-  EXPECT_EQ(reports.empty() ? 0 : std::stoi(reports), strictly.error);
+  EXPECT_EQ(first_code(reports), code_name(strictly.error));
   EXPECT_EQ(reports.substr(0, reports.find(',')), strictly.reader.reports());
   Reading<> tolerantly(document, tolerant());
   EXPECT_EQ(0, tolerantly.error);
@@ -129,12 +113,12 @@ void expect_reports(std::string const& document, std::string const& reports) {
   EXPECT_NE(61, tolerantly.top.chosen);
 }
 
-std::string report(int code, ElementRow const& row) { return std::to_string(code) + ' ' + row.tag; }
+std::string report(int code, ElementRow const& row) { return ::report(code, row.tag); }
 
 // What is told of an element that has something in it, but nothing that counts. A question looks for its
 // prompt alone; the others look before and behind the run of their children.
 std::string missing(ElementRow const& row) {
-  const std::string once = report(21, row);
+  const std::string once = report(lmx::ELMX_MANDATORY_ELEMENT_MISSING, row);
   return std::string(row.tag) == "P917_Question" ? once : once + ", " + once;
 }
 
@@ -152,9 +136,12 @@ TEST(EveryClass, MayBeEmptyUnlessItMustHaveChildren) {
   for_each_class([](ElementRow const& row, Kind kind) {
     const bool is_refused = kind == Kind::MandatoryChildren;
     const std::string empty_tag = start_of(row) + "/>";
-    expect_reports(empty_tag, is_refused ? report(32, row) + ", " + report(10, row) : "");
+    expect_reports(empty_tag, is_refused ? report(lmx::ELMX_UNEXPECTED_EMPTY_ELEMENT, row) + ", " +
+                                               report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
+                                         : "");
     for (char const* const nothing : {"", " \n\t", "<!-- c -->", "<?p i?>", "\n<!-- c --> <?p i?>\n"}) {
-      expect_reports(with_content(row, nothing), is_refused ? report(32, row) : "");
+      expect_reports(with_content(row, nothing),
+                     is_refused ? report(lmx::ELMX_UNEXPECTED_EMPTY_ELEMENT, row) : "");
     }
   });
 }
@@ -164,9 +151,10 @@ TEST(EveryClass, MayBeEmptyUnlessItMustHaveChildren) {
 TEST(EveryClass, RefusesTextUnlessItHoldsText) {
   for_each_class([](ElementRow const& row, Kind kind) {
     for (char const* const text : {"text", " text ", "<![CDATA[x]]>", "<![CDATA[]]>"}) {
-      const std::string reports = kind == Kind::Text                ? ""
-                                  : kind == Kind::MandatoryChildren ? missing(row) + ", " + report(10, row)
-                                                                    : report(10, row);
+      const std::string reports = kind == Kind::Text ? ""
+                                  : kind == Kind::MandatoryChildren
+                                      ? missing(row) + ", " + report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
+                                      : report(lmx::ELMX_BAD_END_OF_ELEMENT, row);
       expect_reports(with_content(row, text), reports);
     }
   });
@@ -179,7 +167,7 @@ TEST(EveryClass, MissesItsChildrenBehindStrangers) {
   for_each_class([](ElementRow const& row, Kind kind) {
     for (char const* const stranger : strangers) {
       const bool is_refused = kind == Kind::AttributesOnly || kind == Kind::Text;
-      expect_reports(with_content(row, stranger), is_refused                        ? report(10, row)
+      expect_reports(with_content(row, stranger), is_refused ? report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
                                                   : kind == Kind::MandatoryChildren ? missing(row)
                                                                                     : "");
     }
@@ -212,11 +200,13 @@ TEST(EveryClass, LosesNothingToStrangersAmongItsChildren) {
 TEST(EveryClass, IsNotReadBeyondItsStartTag) {
   for_each_class([](ElementRow const& row, Kind kind) {
     const std::string name = row.tag;
-    const std::string end = "34 " + name;
-    const std::string rest =
-        kind == Kind::MandatoryChildren ? missing(row) + ", " + report(10, row) : report(10, row);
+    const std::string end = ::report(lmx::ELMX_UNEXPECTED_EOM, name);
+    const std::string rest = kind == Kind::MandatoryChildren
+                                 ? missing(row) + ", " + report(lmx::ELMX_BAD_END_OF_ELEMENT, row)
+                                 : report(lmx::ELMX_BAD_END_OF_ELEMENT, row);
     if (kind == Kind::Text) {
-      expect_reports(start_of(row) + '>', report(29, row) + ", " + report(10, row));
+      expect_reports(start_of(row) + '>', report(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE, row) + ", " +
+                                              report(lmx::ELMX_BAD_END_OF_ELEMENT, row));
     } else {
       expect_reports(start_of(row) + '>', end + ", " + rest);
     }
@@ -226,7 +216,8 @@ TEST(EveryClass, IsNotReadBeyondItsStartTag) {
 TEST(EveryClass, ThatMustHaveChildrenMissesOneThatIsCutOffInItsStartTag) {
   for_each_class([](ElementRow const& row, Kind kind) {
     if (kind != Kind::MandatoryChildren && kind != Kind::Children) return;
-    const int code = kind == Kind::MandatoryChildren ? 21 : 10;
+    const lmx::elmx_error code =
+        kind == Kind::MandatoryChildren ? lmx::ELMX_MANDATORY_ELEMENT_MISSING : lmx::ELMX_BAD_END_OF_ELEMENT;
     const std::string child = words(parents().at(row.tag).children).front();
     for (char const* const cut : {" ", "\n", " A='1'", " A='1' ", " A='1'B='2'"}) {
       const std::string document = start_of(row) + "><" + child + cut;
@@ -239,126 +230,101 @@ TEST(EveryClass, ThatMustHaveChildrenMissesOneThatIsCutOffInItsStartTag) {
 
 // ---- Name tables ----
 
-// The tables of a class with children and of its wrapper.
-struct Tables {
-  char const* tag;
-  lmx::s_known_elements const* known_elements;
-  lmx::s_event_map const* of_class;
-  lmx::s_event_map const* of_wrapper;
-};
+using Events = std::vector<std::pair<std::string, int>>;
 
-template <class X, class Inner>
-constexpr Tables tables(char const* tag) {
-  return {tag, X::known_elements, X::elem_event_map, Inner::elem_event_map};
+// The names and numbers that are pinned for a class, in the order of the format.
+Events pinned(std::string const& kind, std::string const& owner) {
+  Events found;
+  std::istringstream rows(file_bytes(ISOXML_PINNED_NUMBERS));
+  for (std::string row; std::getline(rows, row);) {
+    std::istringstream cells(row);
+    std::string cell[5];  // kind, class, name, field, event
+    for (std::string& text : cell) std::getline(cells, text, ',');
+    if (cell[0] == kind && cell[1] == owner) found.emplace_back(cell[2], std::stoi(cell[4]));
+  }
+  return found;
 }
 
-const Tables tables_of_parents[] = {
-    tables<TaskData, InnerTaskData>("ISO11783_TaskData"),
-    tables<ExternalFileContent, InnerExternalFileContent>("XFC"),
-    tables<LinkList, InnerLinkList>("ISO11783LinkList"),
-    tables<LinkGroup, InnerLinkGroup>("LGP"),
-    tables<Product, InnerProduct>("PDT"),
-    tables<CropType, InnerCropType>("CTP"),
-    tables<CulturalPractice, InnerCulturalPractice>("CPC"),
-    tables<CodedComment, InnerCodedComment>("CCT"),
-    tables<ColourLegend, InnerColourLegend>("CLD"),
-    tables<Field, InnerField>("PFD"),
-    tables<Polygon, InnerPolygon>("PLN"),
-    tables<LineString, InnerLineString>("LSG"),
-    tables<GuidanceGroup, InnerGuidanceGroup>("GGP"),
-    tables<GuidancePattern, InnerGuidancePattern>("GPN"),
-    tables<GuidanceAllocation, InnerGuidanceAllocation>("GAN"),
-    tables<GuidanceShift, InnerGuidanceShift>("GST"),
-    tables<Task, InnerTask>("TSK"),
-    tables<TreatmentZone, InnerTreatmentZone>("TZN"),
-    tables<ProcessDataVariable, InnerProcessDataVariable>("PDV"),
-    tables<Time, InnerTime>("TIM"),
-    tables<AllocationStamp, InnerAllocationStamp>("ASP"),
-    tables<CommentAllocation, InnerCommentAllocation>("CAN"),
-    tables<DeviceAllocation, InnerDeviceAllocation>("DAN"),
-    tables<WorkerAllocation, InnerWorkerAllocation>("WAN"),
-    tables<ProductAllocation, InnerProductAllocation>("PAN"),
-    tables<ControlAssignment, InnerControlAssignment>("CAT"),
-    tables<Device, InnerDevice>("DVC"),
-    tables<DeviceElement, InnerDeviceElement>("DET"),
-    // Without a wrapper.
-    tables<P917Questions, P917Questions>("P917_Questions"),
-    tables<P917Question, P917Question>("P917_Question"),
-};
+Events pinned_children(std::string const& owner) {
+  if (owner == "P917Questions") return {{"P917_Question", 36}};  // a list, which is no choice
+  const Events children = pinned("child", owner);
+  return children.empty() ? pinned("alternative", owner) : children;
+}
 
 template <class Row>
-Names names(Row const* row) {
+void expect_name(Row const& row) {
+  EXPECT_EQ(1, row.m_ns_id) << row.mp_name;
+  EXPECT_EQ(std::string(row.mp_name).size(), row.m_length) << row.mp_name;
+}
+
+Events events(lmx::s_event_map const* row) {
+  Events all;
+  for (; row->mp_name != nullptr; ++row) {
+    expect_name(*row);
+    all.emplace_back(row->mp_name, row->m_event);
+  }
+  return all;
+}
+
+Names names(lmx::s_known_elements const* row) {
   Names all;
   for (; row->mp_name != nullptr; ++row) {
-    EXPECT_EQ(1, row->m_ns_id) << row->mp_name;
-    EXPECT_EQ(std::string(row->mp_name).size(), row->m_length) << row->mp_name;
+    expect_name(*row);
     all.emplace_back(row->mp_name);
   }
   return all;
 }
 
+Names names(Events const& events) {
+  Names all;
+  for (auto const& event : events) all.push_back(event.first);
+  return all;
+}
+
+TEST(NameTables, GiveEachAttributeItsNumber) {
+  for (TableRow const& row : table_rows) {
+    SCOPED_TRACE(row.name);
+    if (row.attributes == nullptr) continue;
+    EXPECT_EQ(pinned("attribute", row.name), events(row.attributes));
+  }
+}
+
 TEST(NameTables, HoldTheOwnChildrenOfEachClassInOrder) {
-  EXPECT_EQ(parents().size(), std::size(tables_of_parents));
-  for (Tables const& row : tables_of_parents) {
-    SCOPED_TRACE(row.tag);
-    const Names children = words(parents().at(row.tag).children);
-    EXPECT_EQ(children, names(row.known_elements));
-    EXPECT_EQ(children, names(row.of_class));
-    EXPECT_EQ(children, names(row.of_wrapper));
+  EXPECT_EQ(62u, table_rows.size()) << "61 classes and Root";
+  for (TableRow const& row : table_rows) {
+    SCOPED_TRACE(row.name);
+    const Events children = pinned_children(row.name);
+    EXPECT_EQ(children, events(row.children));
+    EXPECT_EQ(names(children), names(row.known_elements));
+    if (row.children_of_wrapper == nullptr) continue;
+    EXPECT_EQ(children, events(row.children_of_wrapper));
   }
 }
 
-TEST(NameTables, AreEmptyForClassesWithoutChildren) {
-  for (lmx::s_known_elements const* const table : {AttachedFile::known_elements,
-                                                   P917Metadata::known_elements,
-                                                   TaskControllerCapabilities::known_elements,
-                                                   ExternalFileReference::known_elements,
-                                                   BaseStation::known_elements,
-                                                   CoddedCommentGroup::known_elements,
-                                                   CodedCommentListValue::known_elements,
-                                                   ColourRange::known_elements,
-                                                   Connection::known_elements,
-                                                   CropVariety::known_elements,
-                                                   Grower::known_elements,
-                                                   DataLogTrigger::known_elements,
-                                                   DataLogValue::known_elements,
-                                                   DeviceObjectReference::known_elements,
-                                                   DeviceProcessData::known_elements,
-                                                   DeviceProperty::known_elements,
-                                                   DeviceValuePresentation::known_elements,
-                                                   Farm::known_elements,
-                                                   Grid::known_elements,
-                                                   OperationTechnique::known_elements,
-                                                   OperationTechniqueReference::known_elements,
-                                                   OperTechPractice::known_elements,
-                                                   Point::known_elements,
-                                                   Position::known_elements,
-                                                   ProductGroup::known_elements,
-                                                   ProductRelation::known_elements,
-                                                   TimeLog::known_elements,
-                                                   ValuePresentation::known_elements,
-                                                   Worker::known_elements,
-                                                   Link::known_elements}) {
-    EXPECT_EQ(Names{}, names(table));
+TEST(NameTables, HoldTheChildrenThatTheDocumentsAreMadeOf) {
+  for (ElementRow const& row : element_rows) {
+    const auto parent = parents().find(row.tag);
+    const Names expected = parent == parents().end() ? Names{} : words(parent->second.children);
+    EXPECT_EQ(expected,
+              names(table_rows[static_cast<std::size_t>(&row - element_rows.data())].known_elements))
+        << row.tag;
   }
 }
 
-int event_of(lmx::s_event_map const* row, std::string const& name) {
-  for (; row->mp_name != nullptr; ++row) {
-    if (row->mp_name == name) return row->m_event;
-  }
-  return 0;
-}
-
+// A polygon has one number as a part of a field or a zone, another as the boundary of guidance.
 TEST(NameTables, TellABoundaryInGuidanceFromAnyOtherPolygon) {
-  const std::map<std::string, int> expected = {{"PFD", 134}, {"TZN", 134}, {"GGP", 159}, {"GPN", 159}};
-  for (Tables const& row : tables_of_parents) {
-    SCOPED_TRACE(row.tag);
-    const auto event = expected.find(row.tag);
-    EXPECT_EQ(event == expected.end() ? 0 : event->second, event_of(row.of_class, "PLN"));
-    EXPECT_EQ(event == expected.end() ? 0 : event->second, event_of(row.of_wrapper, "PLN"));
+  const std::map<std::string, int> expected = {{"Root", 134},
+                                               {"Field", 134},
+                                               {"TreatmentZone", 134},
+                                               {"GuidanceGroup", 159},
+                                               {"GuidancePattern", 159}};
+  std::map<std::string, int> found;
+  for (TableRow const& row : table_rows) {
+    for (auto const& [name, event] : events(row.children)) {
+      if (name == "PLN") found[row.name] = event;
+    }
   }
-  EXPECT_EQ(134, event_of(Root::elem_event_map, "PLN"));
+  EXPECT_EQ(expected, found);
 }
 
 // ---- Moved-from objects ----

@@ -49,34 +49,41 @@ TEST_P(InvalidByte, EndsWhatItStandsIn) {
 
 INSTANTIATE_TEST_SUITE_P(
     InATag, InvalidByte,
-    testing::Values(Row{"behind an attribute's name", "<TSK A\x80=\"TSK1\" G=\"1\"/>", 34},
-                    Row{"behind a declaration's prefix", "<TSK xmlns:p\x80=\"u\" A=\"TSK1\" G=\"1\"/>", 34},
-                    Row{"behind an unknown element's attribute", task("<Foo a\x80=\"1\"/>"), 34},
-                    Row{"between attributes", "<TSK A=\"TSK1\" \x80G=\"1\"/>", 31},
-                    Row{"behind an element's name", task("<TZN\x80 A=\"1\"/>"), 23},
-                    Row{"behind an end tag's name", "<TSK A=\"TSK1\" G=\"1\"></TSK\x80>", 23}));
+    testing::Values(
+        Row{"behind an attribute's name", "<TSK A\x80=\"TSK1\" G=\"1\"/>", lmx::ELMX_UNEXPECTED_EOM},
+        Row{"behind a declaration's prefix", "<TSK xmlns:p\x80=\"u\" A=\"TSK1\" G=\"1\"/>",
+            lmx::ELMX_UNEXPECTED_EOM},
+        Row{"behind an unknown element's attribute", task("<Foo a\x80=\"1\"/>"), lmx::ELMX_UNEXPECTED_EOM},
+        Row{"between attributes", "<TSK A=\"TSK1\" \x80G=\"1\"/>", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+        Row{"behind an element's name", task("<TZN\x80 A=\"1\"/>"), lmx::ELMX_NOT_WELL_FORMED},
+        Row{"behind an end tag's name", "<TSK A=\"TSK1\" G=\"1\"></TSK\x80>", lmx::ELMX_NOT_WELL_FORMED}));
 
 INSTANTIATE_TEST_SUITE_P(InContent, InvalidByte,
                          testing::Values(Row{"in an unknown element's text",
                                              task("<Foo>ab\x80"
                                                   "cd</Foo>"),
-                                             5},
+                                             lmx::ELMX_BADLY_FORMED},
                                          Row{"in text between tags",
                                              task("ab\x80"
                                                   "cd"),
-                                             10},
+                                             lmx::ELMX_BAD_END_OF_ELEMENT},
                                          Row{"behind the bracket of a tag",
-                                             task("<P917_comment>abc<\x80/P917_comment>"), 10}));
+                                             task("<P917_comment>abc<\x80/P917_comment>"),
+                                             lmx::ELMX_BAD_END_OF_ELEMENT}));
 
 INSTANTIATE_TEST_SUITE_P(
     InTheProlog, InvalidByte,
-    testing::Values(Row{"behind the word encoding", "<?xml version=\"1.0\" encoding\x80?>" + task(""), 31},
+    testing::Values(Row{"behind the word encoding", "<?xml version=\"1.0\" encoding\x80?>" + task(""),
+                        lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
                     Row{"behind the word standalone", "<?xml version=\"1.0\" standalone\x80?>" + task(""),
-                        31},
-                    Row{"behind a parameter entity's name", with_subset("%p\x80"), 9},
-                    Row{"behind the name of one that there is", with_subset("<!ENTITY % p ''>%p\x80"), 9},
-                    Row{"before an entity's name", with_subset("<!ENTITY \x80 a \"1\">"), 31},
-                    Row{"before an entity's value", with_subset("<!ENTITY a \x80\"1\">"), 31},
+                        lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+                    Row{"behind a parameter entity's name", with_subset("%p\x80"), lmx::ELMX_BAD_DTD},
+                    Row{"behind the name of one that there is", with_subset("<!ENTITY % p ''>%p\x80"),
+                        lmx::ELMX_BAD_DTD},
+                    Row{"before an entity's name", with_subset("<!ENTITY \x80 a \"1\">"),
+                        lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+                    Row{"before an entity's value", with_subset("<!ENTITY a \x80\"1\">"),
+                        lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
                     Row{"behind an ampersand in an entity's value, which is read on",
                         with_subset("<!ENTITY a \"1&\x80\">"), 0}));
 
@@ -95,7 +102,8 @@ TEST(BadReference, TakesTheCharacterBehindTheNumberSign) {
     Root root;
     RecordingReader reader(source, tolerant());
     root.unmarshal(reader);
-    EXPECT_EQ("29 P917_comment, 10 P917_comment", reader.reports().substr(0, 32));
+    EXPECT_EQ(0u, reader.reports().find("UNABLE_TO_READ_ELEMENT_VALUE P917_comment, "
+                                        "BAD_END_OF_ELEMENT P917_comment"));
   });
 }
 

@@ -18,29 +18,31 @@ std::string device_with_label(std::string const& label) {
 }
 
 TEST(LargeValues, OfHexadecimalDigitsFitThePatternAndAreTooLong) {
-  EXPECT_EQ((Reading{19, 1, "F"}), read_document(device_with_label(std::string(twenty_megabytes, '1'))));
+  EXPECT_EQ((Reading{lmx::ELMX_LENGTH_TOO_LONG, 1, "F"}),
+            read_document(device_with_label(std::string(twenty_megabytes, '1'))));
 }
 
 TEST(LargeValues, ThatMissThePatternAtTheirEndAreRefused) {
-  EXPECT_EQ((Reading{35, 1, "F"}),
+  EXPECT_EQ((Reading{lmx::ELMX_VALUE_BAD_FORMAT, 1, "F"}),
             read_document(device_with_label(std::string(twenty_megabytes, '1') + "x")));
-  EXPECT_EQ((Reading{22, 1, "F"}),
+  EXPECT_EQ((Reading{lmx::ELMX_NO_PATTERN_MATCHED, 1, "F"}),
             read_document(device_with_label("FF" + std::string(twenty_megabytes, '1'))));
 }
 
 TEST(LargeValues, OfAnIdentifierAreTooLong) {
-  EXPECT_EQ((Reading{19, 1, "A"}),
+  EXPECT_EQ((Reading{lmx::ELMX_LENGTH_TOO_LONG, 1, "A"}),
             read_document("<TSK A=\"TSK" + std::string(twenty_megabytes, '1') + "\" G=\"1\"/>"));
 }
 
 TEST(LargeValues, OfAUuidAreNoUuid) {
-  EXPECT_EQ((Reading{22, 1, "P917_Uuid"}),
+  EXPECT_EQ((Reading{lmx::ELMX_NO_PATTERN_MATCHED, 1, "P917_Uuid"}),
             read_document("<P917_Question P917_Uuid=\"" + std::string(twenty_megabytes, 'a') +
                           "\" P917_ReplyType=\"string\"><P917_Prompt/></P917_Question>"));
 }
 
 TEST(LargeValues, OfAnIntegerAreAboveItsBound) {
-  EXPECT_EQ((Reading{36, 1, "A"}), read_document("<TZN A=\"" + std::string(twenty_megabytes, '9') + "\"/>"));
+  EXPECT_EQ((Reading{lmx::ELMX_VALUE_EXCEEDS_MAX, 1, "A"}),
+            read_document("<TZN A=\"" + std::string(twenty_megabytes, '9') + "\"/>"));
   EXPECT_EQ((Reading{0, 1, ""}), read_document("<TZN A=\"" + std::string(twenty_megabytes, '0') + "7\"/>"));
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "GenLibrarySupportFiles/lmxparse/c_error.h"
+#include "support/code_name.h"
 
 struct Report {
   lmx::elmx_error_type type;
@@ -25,8 +26,7 @@ class RecordingError : public lmx::c_error {
     std::string all;
     for (auto const& report : reports) {
       static const char* const types[] = {"fatal", "error", "warning", "note"};
-      all +=
-          std::string(types[report.type]) + " " + std::to_string(report.code) + " " + report.message + "\n";
+      all += std::string(types[report.type]) + " " + code_name(report.code) + " " + report.message + "\n";
     }
     return all;
   }

@@ -1,6 +1,7 @@
 // Opening a transfer set: which files are opened, what is kept of each, and what a host is told of those that
 // failed, by code and by line.
 #include "transfer/IsoXmlParser.h"
+#include "support/code_name.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -76,23 +77,23 @@ std::size_t open_files() {
   return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
 }
 
-// Code and name of each error, such as "1 CTR00001, 25 TSK00002".
+// Code and name of each error, such as "NO_FILE CTR00001, REQUIRED_ATTRIBUTES_MISSING TSK00002".
 std::string errors(IsoXmlParser const& parser) {
   std::string text;
   for (IsoXmlError const& error : parser.getErrors()) {
-    text += (text.empty() ? "" : ", ") + std::to_string(error.error) + ' ' + error.fileName;
+    text += (text.empty() ? "" : ", ") + code_name(error.error) + ' ' + error.fileName;
   }
   return text;
 }
 
-// Role, name and code of each document, such as "main TASKDATA 0, external CTR00001 1".
+// Role, name and code of each document, such as "main TASKDATA OK, external CTR00001 NO_FILE".
 std::string documents(IsoXmlParser const& parser) {
   const std::map<Role, std::string> roles = {
       {Role::Main, "main "}, {Role::LinkList, "links "}, {Role::External, "external "}};
   std::string text;
   for (IsoDocument const& document : parser.getDocuments()) {
     text += (text.empty() ? "" : ", ") + roles.at(document.role) + document.name + ' ' +
-            std::to_string(document.error);
+            code_name(document.error);
     const bool is_held = document.error == lmx::ELMX_OK && document.role != Role::LinkList;
     EXPECT_EQ(is_held, document.root != nullptr) << document.name;
     EXPECT_EQ(document.error == lmx::ELMX_OK, document.message.empty()) << document.name;
@@ -151,7 +152,7 @@ TEST(Path, IsDirectorySlashNameAndASuffixIfTheNameHasNone) {
     TempDir directory;
     directory.write(row.file, task_data(""));
     const IsoXmlParser parser(directory.path() + row.directory, row.name);
-    EXPECT_EQ(row.is_found ? "" : std::string("1 ") + row.name, errors(parser)) << row.caption;
+    EXPECT_EQ(row.is_found ? "" : std::string("NO_FILE ") + row.name, errors(parser)) << row.caption;
     ASSERT_EQ(1u, parser.getDocuments().size());
     EXPECT_EQ(row.name, parser.getDocuments()[0].name) << row.caption;
   }
@@ -167,8 +168,8 @@ TEST(Path, OfAnExternalFileIsInTheSameDirectory) {
   Set set({{"TASKDATA.XML", task_data(reference("CTR00001") + reference("CTR00002"))},
            {"CTR00001.XML", "<XFC/>"},
            {"ctr00002.xml", "<XFC/>"}});
-  EXPECT_EQ("1 CTR00002", errors(*set));
-  EXPECT_EQ("main TASKDATA 0, external CTR00001 0, external CTR00002 1", documents(*set));
+  EXPECT_EQ("NO_FILE CTR00002", errors(*set));
+  EXPECT_EQ("main TASKDATA OK, external CTR00001 OK, external CTR00002 NO_FILE", documents(*set));
 }
 
 // --- What fails, and what stands without it --------------------------------------------------------------
@@ -191,46 +192,47 @@ TEST(Failures, LeaveOutTheDocumentAlone) {
         {"CTR00001.XML", "<XFC/>"},
         {"TSK00002.XML", "<XFC/>"}},
        "",
-       "main TASKDATA 0, links LINKLIST.XML 0, external CTR00001 0, external TSK00002 0"},
+       "main TASKDATA OK, links LINKLIST.XML OK, external CTR00001 OK, external TSK00002 OK"},
       {"main missing",
        {{"LINKLIST.XML", links}, {"CTR00001.XML", "<XFC/>"}},
-       "1 TASKDATA",
-       "main TASKDATA 1"},
+       "NO_FILE TASKDATA",
+       "main TASKDATA NO_FILE"},
       {"main malformed",
        {{"TASKDATA.XML", main.substr(0, main.size() - 4)}, {"LINKLIST.XML", links}},
-       "23 TASKDATA",
-       "main TASKDATA 23"},
+       "NOT_WELL_FORMED TASKDATA",
+       "main TASKDATA NOT_WELL_FORMED"},
       {"main invalid at its end",
        {{"TASKDATA.XML",
          task_data(attached("LINKLIST.XML") + reference("CTR00001") + "<XFR A='CTR00002'/>")}},
-       "25 TASKDATA",
-       "main TASKDATA 25"},
+       "REQUIRED_ATTRIBUTES_MISSING TASKDATA",
+       "main TASKDATA REQUIRED_ATTRIBUTES_MISSING"},
       {"links missing",
        {{"TASKDATA.XML", main}, {"CTR00001.XML", "<XFC/>"}, {"TSK00002.XML", "<XFC/>"}},
-       "1 LINKLIST.XML",
-       "main TASKDATA 0, links LINKLIST.XML 1, external CTR00001 0, external TSK00002 0"},
+       "NO_FILE LINKLIST.XML",
+       "main TASKDATA OK, links LINKLIST.XML NO_FILE, external CTR00001 OK, external TSK00002 OK"},
       {"links malformed",
        {{"TASKDATA.XML", main},
         {"LINKLIST.XML", link_list(group("1", link("CTR1", "uuid") + "text"))},
         {"CTR00001.XML", "<XFC/>"},
         {"TSK00002.XML", "<XFC/>"}},
-       "10 LINKLIST.XML",
-       "main TASKDATA 0, links LINKLIST.XML 10, external CTR00001 0, external TSK00002 0"},
+       "BAD_END_OF_ELEMENT LINKLIST.XML",
+       "main TASKDATA OK, links LINKLIST.XML BAD_END_OF_ELEMENT, external CTR00001 OK, external TSK00002 OK"},
       {"the first external file missing",
        {{"TASKDATA.XML", main}, {"LINKLIST.XML", links}, {"TSK00002.XML", "<XFC/>"}},
-       "1 CTR00001",
-       "main TASKDATA 0, links LINKLIST.XML 0, external CTR00001 1, external TSK00002 0"},
+       "NO_FILE CTR00001",
+       "main TASKDATA OK, links LINKLIST.XML OK, external CTR00001 NO_FILE, external TSK00002 OK"},
       {"the last external file malformed",
        {{"TASKDATA.XML", main},
         {"LINKLIST.XML", links},
         {"CTR00001.XML", "<XFC/>"},
         {"TSK00002.XML", "<XFC>"}},
-       "34 TSK00002",
-       "main TASKDATA 0, links LINKLIST.XML 0, external CTR00001 0, external TSK00002 34"},
+       "UNEXPECTED_EOM TSK00002",
+       "main TASKDATA OK, links LINKLIST.XML OK, external CTR00001 OK, external TSK00002 UNEXPECTED_EOM"},
       {"all but main",
        {{"TASKDATA.XML", main}, {"CTR00001.XML", ""}, {"TSK00002.XML", "junk"}},
-       "1 LINKLIST.XML, 34 CTR00001, 6 TSK00002",
-       "main TASKDATA 0, links LINKLIST.XML 1, external CTR00001 34, external TSK00002 6"},
+       "NO_FILE LINKLIST.XML, UNEXPECTED_EOM CTR00001, BAD_CHAR_ENCODING TSK00002",
+       "main TASKDATA OK, links LINKLIST.XML NO_FILE, external CTR00001 UNEXPECTED_EOM, external TSK00002 "
+       "BAD_CHAR_ENCODING"},
   };
   for (Failure const& row : rows) {
     SCOPED_TRACE(row.caption);
@@ -272,7 +274,7 @@ TEST(Failures, AreToldWithTheReadersOwnTextInTheListOfDocuments) {
   const std::vector<IsoDocument> found = set->getDocuments();
   ASSERT_EQ(2u, found.size());
   EXPECT_EQ(Role::External, found[1].role);
-  EXPECT_EQ(38, found[1].error);
+  EXPECT_EQ(lmx::ELMX_VALUE_NOT_ENUMERATED, found[1].error);
   EXPECT_EQ(2, found[1].line);
   EXPECT_EQ("B", found[1].item);
   EXPECT_EQ(0u, found[1].message.find("Error: Value does not match enumerations\nItem: B\nProgram file: "));
@@ -288,7 +290,7 @@ TEST(Failures, OfADirectoryLookLikeAnEmptyFile) {
   TempDir directory;
   directory.write("TASKDATA.XML/FILE", "");
   const IsoXmlParser parser(directory.path(), "TASKDATA");
-  ASSERT_EQ("34 TASKDATA", errors(parser));
+  ASSERT_EQ("UNEXPECTED_EOM TASKDATA", errors(parser));
   EXPECT_EQ(1, parser.getErrors()[0].line);
 }
 
@@ -345,13 +347,13 @@ TEST(Failures, OfFifosSocketsAndDevicesAreOfCode1AtOnce) {
     row.make(directory.path("MAINFILE.XML"));
     const IsoXmlParser parser(directory.path(), "TASKDATA");
     EXPECT_EQ(
-        "main TASKDATA 0, links LINKLIST.XML 1, external CTR00001 1, external CTR00002 0, "
-        "external CTR00001 1",
+        "main TASKDATA OK, links LINKLIST.XML NO_FILE, external CTR00001 NO_FILE, external CTR00002 OK, "
+        "external CTR00001 NO_FILE",
         documents(parser));
     expect_like_a_missing_file(parser, 1, 0, "LINKLIST.XML");
     expect_like_a_missing_file(parser, 2, 1, "CTR00001");
     const IsoXmlParser of_none(directory.path(), "MAINFILE");
-    EXPECT_EQ("main MAINFILE 1", documents(of_none));
+    EXPECT_EQ("main MAINFILE NO_FILE", documents(of_none));
     expect_like_a_missing_file(of_none, 0, 0, "MAINFILE");
   }
 }
@@ -363,7 +365,7 @@ TEST(Failures, OfAFifoTakeNothingFromIt) {
   const int pipe = open(path.c_str(), O_RDWR | O_NONBLOCK);  // both ends, so that it can be filled
   const std::string bytes = task_data("");
   ASSERT_EQ(static_cast<ssize_t>(bytes.size()), write(pipe, bytes.data(), bytes.size()));
-  EXPECT_EQ("1 TASKDATA", errors(IsoXmlParser(directory.path(), "TASKDATA")));
+  EXPECT_EQ("NO_FILE TASKDATA", errors(IsoXmlParser(directory.path(), "TASKDATA")));
   std::string left(bytes.size() + 1, ' ');
   EXPECT_EQ(static_cast<ssize_t>(bytes.size()), read(pipe, left.data(), left.size()));
   EXPECT_EQ(0, left.compare(0, bytes.size(), bytes));
@@ -378,7 +380,7 @@ TEST(ExternalFiles, AreReadInOrderAndAsOftenAsTheyAreNamed) {
                                       reference("CTR00001") + reference("TSK00001"))},
            {"TSK00001.XML", "<XFC/>"},
            {"CTR00001.XML", "<XFC/>"}});
-  EXPECT_EQ("main TASKDATA 0, external TSK00001 0, external CTR00001 0, external TSK00001 0",
+  EXPECT_EQ("main TASKDATA OK, external TSK00001 OK, external CTR00001 OK, external TSK00001 OK",
             documents(*set));
   const std::vector<IsoDocument> found = set->getDocuments();
   EXPECT_NE(found[1].root, found[3].root);
@@ -396,13 +398,16 @@ TEST(ExternalFiles, AreReadSixteenTimesAndNoMore) {
   const std::string external = ", external TSK00001 ";
   Set good({{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), 20))},
             {"TSK00001.XML", "<XFC><TSK A='TSK1' G='1'/></XFC>"}});
-  EXPECT_EQ("main TASKDATA 0" + repeated(external + "0", 16) + repeated(external + "1", 4), documents(*good));
-  EXPECT_EQ("1 TSK00001, 1 TSK00001, 1 TSK00001, 1 TSK00001", errors(*good));
+  EXPECT_EQ("main TASKDATA OK" + repeated(external + "OK", 16) + repeated(external + "NO_FILE", 4),
+            documents(*good));
+  EXPECT_EQ("NO_FILE TSK00001, NO_FILE TSK00001, NO_FILE TSK00001, NO_FILE TSK00001", errors(*good));
   for (std::size_t i = 0; i != 4; ++i) expect_like_a_missing_file(*good, 17 + i, i, "TSK00001");
   EXPECT_EQ(16u, good->getTasks().size());
 
   Set bad({{"TASKDATA.XML", task_data(repeated(reference("TSK00001"), 18))}, {"TSK00001.XML", "<XFC>"}});
-  EXPECT_EQ("main TASKDATA 0" + repeated(external + "34", 16) + repeated(external + "1", 2), documents(*bad));
+  EXPECT_EQ(
+      "main TASKDATA OK" + repeated(external + "UNEXPECTED_EOM", 16) + repeated(external + "NO_FILE", 2),
+      documents(*bad));
 }
 
 TEST(ExternalFiles, AreOneFileByWhateverNames) {
@@ -423,7 +428,8 @@ TEST(ExternalFiles, AreOneFileByWhateverNames) {
   // Each file has been opened once before the first reference, which names it ten times, twice.
   const IsoXmlParser parser(directory.path(), "TASKDATA");
   std::string expected;
-  for (int i = 0; i != 10; ++i) expected += (i == 0 ? "1 TSK000" : ", 1 TSK000") + std::to_string(20 + i);
+  for (int i = 0; i != 10; ++i)
+    expected += (i == 0 ? "NO_FILE TSK000" : ", NO_FILE TSK000") + std::to_string(20 + i);
   EXPECT_EQ(expected, errors(parser));
   EXPECT_EQ(2u + 40u, parser.getDocuments().size());
 }
@@ -455,13 +461,13 @@ TEST(ExternalFiles, NameNoFurtherFiles) {
            {"CTR00001.XML", task_data(names)},
            {"CTR00002.XML", "<XFC/>"},
            {"LINKLIST.XML", link_list(group("1", link("CTR1", "uuid")))}});
-  EXPECT_EQ("main TASKDATA 0, external CTR00001 0", documents(*set));
+  EXPECT_EQ("main TASKDATA OK, external CTR00001 OK", documents(*set));
   EXPECT_TRUE(set->getUuidLinks().empty());
   EXPECT_EQ(nullptr, set->getP917Metadata());
 
   Set content(
       {{"TASKDATA.XML", task_data(reference("CTR00001"))}, {"CTR00001.XML", "<XFC>" + names + "</XFC>"}});
-  EXPECT_EQ("main TASKDATA 0, external CTR00001 0", documents(*content));
+  EXPECT_EQ("main TASKDATA OK, external CTR00001 OK", documents(*content));
 }
 
 // --- Links -----------------------------------------------------------------------------------------------
@@ -477,7 +483,7 @@ TEST(Links, OfUuidsAreKeptTheFirstOfEachIdentifier) {
                                                      link("CTR5", "late") + link("CTR6", "")))},
            {"SECONDLI.XML", link_list(group("1", link("CTR7", "second")))}});
   EXPECT_EQ("", errors(*set));
-  EXPECT_EQ("main TASKDATA 0, links LINKLIST.XML 0", documents(*set));
+  EXPECT_EQ("main TASKDATA OK, links LINKLIST.XML OK", documents(*set));
   EXPECT_EQ((std::map<std::string, std::string>{{"CTR1", "a"}, {"CTR2", "b"}, {"CTR5", "e"}, {"CTR6", ""}}),
             set->getUuidLinks());
   EXPECT_EQ("a", set->getIsoUuid("CTR1"));
@@ -489,7 +495,7 @@ TEST(Links, OfUuidsAreKeptTheFirstOfEachIdentifier) {
 TEST(Links, AreNotSoughtInASecondFileWhenTheFirstFailed) {
   Set set({{"TASKDATA.XML", task_data(attached("LINKLIST.XML") + attached("SECONDLI.XML"))},
            {"SECONDLI.XML", link_list(group("1", link("CTR7", "second")))}});
-  EXPECT_EQ("1 LINKLIST.XML", errors(*set));
+  EXPECT_EQ("NO_FILE LINKLIST.XML", errors(*set));
   EXPECT_TRUE(set->getUuidLinks().empty());
 }
 
@@ -522,7 +528,7 @@ TEST(Links, AreTakenFromWhateverFileAReaderHolds) {
 
   nameless.SetFileNameWithExtension("NOLINKS");
   parser.processLinks(reader);
-  EXPECT_EQ("1 NOLINKS", errors(parser));
+  EXPECT_EQ("NO_FILE NOLINKS", errors(parser));
   EXPECT_EQ("a", parser.getIsoUuid("CTR1"));
 }
 
@@ -575,10 +581,10 @@ TEST(OpenFile, TellsTheCodeAndRecordsAFailure) {
   EXPECT_EQ(1u, more->reader.getAttachedFileContainer().size());
   EXPECT_EQ(0, more->root.chosen);
   EXPECT_EQ(nullptr, set->openFile("BAD", &error));
-  EXPECT_EQ(25, error);
+  EXPECT_EQ(lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, error);
   EXPECT_EQ(nullptr, set->openFile("NONE.xml", nullptr));
   EXPECT_NE(nullptr, set->openFile("MORE.XML", nullptr));
-  EXPECT_EQ("25 BAD, 1 NONE.xml", errors(*set));
+  EXPECT_EQ("REQUIRED_ATTRIBUTES_MISSING BAD, NO_FILE NONE.xml", errors(*set));
 }
 
 // --- Members ---------------------------------------------------------------------------------------------
@@ -627,7 +633,7 @@ TEST(Handles, AreHeldForEachDocumentUntilTheParserGoes) {
            {"LINKLIST.XML", link_list("")},
            {"CTR00001.XML", "<XFC/>"},
            {"CTR00002.XML", "<XFC>"}});
-  EXPECT_EQ("34 CTR00002, 1 CTR00003", errors(*set));
+  EXPECT_EQ("UNEXPECTED_EOM CTR00002, NO_FILE CTR00003", errors(*set));
   EXPECT_EQ(before + 2, open_files());  // not the link list, which is done with, and not what failed
   set.close();
   EXPECT_EQ(before, open_files());
@@ -720,50 +726,52 @@ void expect_faults(std::vector<Fault> const& rows) {
 const std::string good = "<LNK A='TSK1' B='v'/>";
 
 TEST(Faults, InStartTagsHaveTheirCode) {
-  expect_faults({{"a value without quotes", "<LNK A=TSK1 B='v'/>", 23},
-                 {"an attribute without a value", "<LNK A B='v'/>", 23},
-                 {"a value without =", "<LNK A'TSK1' B='v'/>", 23},
-                 {"a stray character", "<LNK A='TSK1' ; B='v'/>", 23},
-                 {"a stray character at the end", "<LNK A='TSK1' B='v' =/>", 23},
-                 {"something behind the slash", "<LNK A='TSK1' B='v'/x>", 23},
-                 {"a blank behind the slash", "<LNK A='TSK1' B='v'/ >", 0},
-                 {"< in a value", "<LNK A='TSK1' B='<<'/>", 0},
-                 {"> in a value", "<LNK A='TSK1' B='>'/>", 0},
-                 {"the other quote in a value", "<LNK A='TSK1' B='\"'/>", 0},
-                 {"no blank between attributes", "<LNK A='TSK1'B='v'/>", 0},
-                 {"blanks around =", "<LNK A = 'TSK1' B\n=\n'v'/>", 0},
-                 {"a duplicate attribute", "<LNK A='TSK1' A='TSK1' B='v'/>", 3},
-                 {"an unknown attribute", "<LNK A='TSK1' B='v' Z='x'/>", 0},
-                 {"a duplicate unknown attribute", "<LNK A='TSK1' B='v' Z='x' Z='y'/>", 0},
-                 {"a missing attribute", "<LNK A='TSK1'/>", 25},
-                 {"an undeclared entity", "<LNK A='TSK1' B='a &foo; b'/>", 28},
-                 {"a lone ampersand", "<LNK A='TSK1' B='a & b'/>", 28},
-                 {"an undeclared entity in an unknown attribute", "<LNK A='TSK1' B='v' Z='&foo;'/>", 0}});
+  expect_faults(
+      {{"a value without quotes", "<LNK A=TSK1 B='v'/>", lmx::ELMX_NOT_WELL_FORMED},
+       {"an attribute without a value", "<LNK A B='v'/>", lmx::ELMX_NOT_WELL_FORMED},
+       {"a value without =", "<LNK A'TSK1' B='v'/>", lmx::ELMX_NOT_WELL_FORMED},
+       {"a stray character", "<LNK A='TSK1' ; B='v'/>", lmx::ELMX_NOT_WELL_FORMED},
+       {"a stray character at the end", "<LNK A='TSK1' B='v' =/>", lmx::ELMX_NOT_WELL_FORMED},
+       {"something behind the slash", "<LNK A='TSK1' B='v'/x>", lmx::ELMX_NOT_WELL_FORMED},
+       {"a blank behind the slash", "<LNK A='TSK1' B='v'/ >", 0},
+       {"< in a value", "<LNK A='TSK1' B='<<'/>", 0},
+       {"> in a value", "<LNK A='TSK1' B='>'/>", 0},
+       {"the other quote in a value", "<LNK A='TSK1' B='\"'/>", 0},
+       {"no blank between attributes", "<LNK A='TSK1'B='v'/>", 0},
+       {"blanks around =", "<LNK A = 'TSK1' B\n=\n'v'/>", 0},
+       {"a duplicate attribute", "<LNK A='TSK1' A='TSK1' B='v'/>", lmx::ELMX_ATTRIBUTE_ALREADY_READ},
+       {"an unknown attribute", "<LNK A='TSK1' B='v' Z='x'/>", 0},
+       {"a duplicate unknown attribute", "<LNK A='TSK1' B='v' Z='x' Z='y'/>", 0},
+       {"a missing attribute", "<LNK A='TSK1'/>", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING},
+       {"an undeclared entity", "<LNK A='TSK1' B='a &foo; b'/>", lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE},
+       {"a lone ampersand", "<LNK A='TSK1' B='a & b'/>", lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE},
+       {"an undeclared entity in an unknown attribute", "<LNK A='TSK1' B='v' Z='&foo;'/>", 0}});
 }
 
 TEST(Faults, InContentHaveTheirCode) {
-  expect_faults({{"a known element's wrong end tag", "<LGP A='LGP1' B='1'></LNK>", 10},
-                 {"an unknown element's wrong end tag", group("1", "<a><b></a></b>"), 5},
-                 {"an unknown child", group("1", good + "<a><b>text</b></a>" + good), 0},
-                 {"text", group("1", "text"), 10},
-                 {"text between children", group("1", good + "text" + good), 10},
-                 {"text before the end tag", group("1", good + "\n text"), 10},
-                 {"a CDATA section", group("1", "<![CDATA[x]]>"), 10},
-                 {"an empty CDATA section", group("1", good + "<![CDATA[]]>"), 10},
-                 {"an undeclared entity", group("1", "&foo;"), 10},
-                 {"an undeclared entity in an unknown child", group("1", "<a>&foo;</a>"), 5},
-                 {"a lone ampersand", group("1", good + "& "), 10},
-                 {"a document type in content", group("1", "<!DOCTYPE x>"), 9},
-                 {"a declaration in content", group("1", "<?xml version='1.0'?>"), 13},
-                 {"a character that starts no markup", group("1", "<1/>"), 23},
-                 {"an end tag with a blank", "<LGP A='LGP1' B='1'></LGP \n>", 0},
-                 {"an end tag with an attribute", "<LGP A='LGP1' B='1'></LGP x=''>", 23},
-                 {"a comment that ends in three hyphens", group("1", "<!-- x --->"), 0}});
+  expect_faults(
+      {{"a known element's wrong end tag", "<LGP A='LGP1' B='1'></LNK>", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"an unknown element's wrong end tag", group("1", "<a><b></a></b>"), lmx::ELMX_BADLY_FORMED},
+       {"an unknown child", group("1", good + "<a><b>text</b></a>" + good), 0},
+       {"text", group("1", "text"), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"text between children", group("1", good + "text" + good), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"text before the end tag", group("1", good + "\n text"), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"a CDATA section", group("1", "<![CDATA[x]]>"), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"an empty CDATA section", group("1", good + "<![CDATA[]]>"), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"an undeclared entity", group("1", "&foo;"), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"an undeclared entity in an unknown child", group("1", "<a>&foo;</a>"), lmx::ELMX_BADLY_FORMED},
+       {"a lone ampersand", group("1", good + "& "), lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"a document type in content", group("1", "<!DOCTYPE x>"), lmx::ELMX_BAD_DTD},
+       {"a declaration in content", group("1", "<?xml version='1.0'?>"), lmx::ELMX_BAD_XML_DECL},
+       {"a character that starts no markup", group("1", "<1/>"), lmx::ELMX_NOT_WELL_FORMED},
+       {"an end tag with a blank", "<LGP A='LGP1' B='1'></LGP \n>", 0},
+       {"an end tag with an attribute", "<LGP A='LGP1' B='1'></LGP x=''>", lmx::ELMX_NOT_WELL_FORMED},
+       {"a comment that ends in three hyphens", group("1", "<!-- x --->"), 0}});
 }
 
 TEST(Faults, InNumbersHaveTheirCode) {
-  expect_faults({{"above the range", attached("ABCDEFGH.XML", 255), 36},
-                 {"nothing", "<AFE A='ABCDEFGH.XML' B='1' C='' D=''/>", 35},
+  expect_faults({{"above the range", attached("ABCDEFGH.XML", 255), lmx::ELMX_VALUE_EXCEEDS_MAX},
+                 {"nothing", "<AFE A='ABCDEFGH.XML' B='1' C='' D=''/>", lmx::ELMX_VALUE_BAD_FORMAT},
                  {"a plus", "<AFE A='ABCDEFGH.XML' B='1' C='' D='+5'/>", 0},
                  {"leading zeros", "<AFE A='ABCDEFGH.XML' B='1' C='' D='0005'/>", 0},
                  {"minus nothing", "<AFE A='ABCDEFGH.XML' B='1' C='' D='5' F='-0'/>", 0},
@@ -771,85 +779,90 @@ TEST(Faults, InNumbersHaveTheirCode) {
 }
 
 TEST(Faults, InThePrologHaveTheirCode) {
-  expect_faults({{"a declaration", "<?xml version='1.0' encoding='UTF-8' standalone='yes'?>\n" + good, 0},
-                 {"version 1.1", "<?xml version=\"1.1\"?>" + good, 0},
-                 {"no version", "<?xml encoding='UTF-8'?>" + good, 13},
-                 {"an empty declaration", "<?xml ?>" + good, 13},
-                 {"another version", "<?xml version='2.0'?>" + good, 14},
-                 {"an unknown encoding", "<?xml version='1.0' encoding='KOI8-R'?>" + good, 6},
-                 {"an encoding the bytes do not have", "<?xml version='1.0' encoding='UTF-16'?>" + good, 15},
-                 {"damage behind the version", "<?xml version='1.0' x?>" + good, 31},
-                 {"an encoding without a quote", "<?xml version='1.0' encoding=UTF-8?>" + good, 31},
-                 {"no question mark at the end", "<?xml version='1.0'>" + good, 31},
-                 {"a second declaration", "<?xml version='1.0'?><?xml version='1.0'?>" + good, 13},
-                 {"a declaration behind a comment", "<!-- c -->\n<?xml version='1.0'?>" + good, 0},
-                 {"a second document type", "<!DOCTYPE x><!DOCTYPE x>" + good, 9},
-                 {"an instruction whose name begins otherwise swallows the document", "<?x?>" + good, 31},
-                 {"up to the end of the next one", "<?x?><?y z?>" + good, 0},
-                 {"a malformed bang", "<!x>" + good, 31},
-                 {"and one behind a warning", "<!-- x ---><!x>" + good, 8}});
+  expect_faults(
+      {{"a declaration", "<?xml version='1.0' encoding='UTF-8' standalone='yes'?>\n" + good, 0},
+       {"version 1.1", "<?xml version=\"1.1\"?>" + good, 0},
+       {"no version", "<?xml encoding='UTF-8'?>" + good, lmx::ELMX_BAD_XML_DECL},
+       {"an empty declaration", "<?xml ?>" + good, lmx::ELMX_BAD_XML_DECL},
+       {"another version", "<?xml version='2.0'?>" + good, lmx::ELMX_BAD_XML_VERSION},
+       {"an unknown encoding", "<?xml version='1.0' encoding='KOI8-R'?>" + good, lmx::ELMX_BAD_CHAR_ENCODING},
+       {"an encoding the bytes do not have", "<?xml version='1.0' encoding='UTF-16'?>" + good,
+        lmx::ELMX_ENCODING_MISMATCH},
+       {"damage behind the version", "<?xml version='1.0' x?>" + good, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"an encoding without a quote", "<?xml version='1.0' encoding=UTF-8?>" + good,
+        lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"no question mark at the end", "<?xml version='1.0'>" + good, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"a second declaration", "<?xml version='1.0'?><?xml version='1.0'?>" + good, lmx::ELMX_BAD_XML_DECL},
+       {"a declaration behind a comment", "<!-- c -->\n<?xml version='1.0'?>" + good, 0},
+       {"a second document type", "<!DOCTYPE x><!DOCTYPE x>" + good, lmx::ELMX_BAD_DTD},
+       {"an instruction whose name begins otherwise swallows the document", "<?x?>" + good,
+        lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"up to the end of the next one", "<?x?><?y z?>" + good, 0},
+       {"a malformed bang", "<!x>" + good, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"and one behind a warning", "<!-- x ---><!x>" + good, lmx::ELMX_BAD_COMMENT}});
 }
 
 TEST(Faults, OfWholeDocumentsHaveTheirCode) {
-  expect_faults({{"nothing", "", 34},
-                 {"blanks", " \r\n\t\n", 34},
-                 {"a comment", "<!-- c -->", 34},
-                 {"an instruction", "<?p i?>", 34},
-                 {"a declaration", "<?xml version='1.0'?>\n", 34},
-                 {"a document type", "<!DOCTYPE x>", 34},
-                 {"a byte order mark", "\xEF\xBB\xBF", 34},
-                 {"an unknown element", "<Foo/>", 34},
-                 {"an unknown element with content", "<Foo>x<LNK/></Foo>\n", 34},
-                 {"an unclosed unknown element", "<Foo>", 5},
-                 {"mismatched tags in one", "<Foo><a></b></Foo>", 5},
-                 {"an undeclared entity in one", "<Foo>&nbsp;</Foo>", 5},
+  expect_faults({{"nothing", "", lmx::ELMX_UNEXPECTED_EOM},
+                 {"blanks", " \r\n\t\n", lmx::ELMX_UNEXPECTED_EOM},
+                 {"a comment", "<!-- c -->", lmx::ELMX_UNEXPECTED_EOM},
+                 {"an instruction", "<?p i?>", lmx::ELMX_UNEXPECTED_EOM},
+                 {"a declaration", "<?xml version='1.0'?>\n", lmx::ELMX_UNEXPECTED_EOM},
+                 {"a document type", "<!DOCTYPE x>", lmx::ELMX_UNEXPECTED_EOM},
+                 {"a byte order mark", "\xEF\xBB\xBF", lmx::ELMX_UNEXPECTED_EOM},
+                 {"an unknown element", "<Foo/>", lmx::ELMX_UNEXPECTED_EOM},
+                 {"an unknown element with content", "<Foo>x<LNK/></Foo>\n", lmx::ELMX_UNEXPECTED_EOM},
+                 {"an unclosed unknown element", "<Foo>", lmx::ELMX_BADLY_FORMED},
+                 {"mismatched tags in one", "<Foo><a></b></Foo>", lmx::ELMX_BADLY_FORMED},
+                 {"an undeclared entity in one", "<Foo>&nbsp;</Foo>", lmx::ELMX_BADLY_FORMED},
                  {"an unknown element before a good one", "<Foo/>" + good, 0},
                  {"an element before a bad one", good + "<LNK/>", 0},
                  {"an element before anything", good + "</x>text &foo; <<", 0},
-                 {"a first byte that is no markup", "hello" + good, 6},
-                 {"text behind a blank", " hello" + good, 31},
-                 {"an end tag", "</x>", 31},
-                 {"a default namespace", "<LNK xmlns='u' A='TSK1' B='v'/>", 34},
-                 {"a prefix", "<p:LNK xmlns:p='u' A='TSK1' B='v'/>", 34},
-                 {"another case", "<lnk A='TSK1' B='v'/>", 34},
+                 {"a first byte that is no markup", "hello" + good, lmx::ELMX_BAD_CHAR_ENCODING},
+                 {"text behind a blank", " hello" + good, lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+                 {"an end tag", "</x>", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+                 {"a default namespace", "<LNK xmlns='u' A='TSK1' B='v'/>", lmx::ELMX_UNEXPECTED_EOM},
+                 {"a prefix", "<p:LNK xmlns:p='u' A='TSK1' B='v'/>", lmx::ELMX_UNEXPECTED_EOM},
+                 {"another case", "<lnk A='TSK1' B='v'/>", lmx::ELMX_UNEXPECTED_EOM},
                  {"declared prefixes that are not used", "<LNK xmlns:p='u' A='TSK1' B='v'/>", 0}});
 }
 
 const std::string cut = "<LGP A='LGP1' B='1'>";
 
 TEST(Faults, OfCutDocumentsHaveTheirCode) {
-  expect_faults({{"behind <", "<", 23},
-                 {"in the root's name", "<LN", 23},
-                 {"behind the root's name", "<LNK", 23},
-                 {"behind a blank", "<LNK ", 31},
-                 {"behind an attribute's name", "<LNK A", 34},
-                 {"behind a name and a blank", "<LNK A ", 34},
-                 {"behind =", "<LNK A=", 23},
-                 {"in a value", "<LNK A='TS", 23},
-                 {"behind an attribute", "<LNK A='TSK1'", 31},
-                 {"behind an attribute and a blank", "<LNK A='TSK1' ", 31},
-                 {"behind the slash", "<LNK A='TSK1' B='v'/", 23},
-                 {"behind the root's tag", cut, 34},
-                 {"behind a child", cut + good + " ", 34},
-                 {"behind a child's <", cut + "<", 23},
-                 {"in a child's name", cut + "<LN", 23},
-                 {"behind a child's name and a blank", cut + "<LNK ", 10},
-                 {"behind a child's attribute's name", cut + "<LNK A", 34},
-                 {"behind a child's =", cut + "<LNK A=", 23},
-                 {"in a child's value", cut + "<LNK A='", 23},
-                 {"behind a child's attribute", cut + "<LNK A='TSK1'", 10},
-                 {"behind a second child's attribute", cut + good + "<LNK A='TSK1'", 10},
-                 {"in an unknown child", cut + "<Foo><Bar/>", 5},
-                 {"in an unknown child's name", cut + "<Foo", 23},
-                 {"in an unknown child's child's name", cut + "<Foo><Ba", 5},
-                 {"in a comment", cut + "<!-- x", 10},
-                 {"in a comment before the root", "<!-- x -", 31},
-                 {"in an instruction", cut + "<?p x", 10},
-                 {"in an instruction before the root", "<?p x", 31},
-                 {"behind </", cut + "</", 10},
-                 {"in the end tag's name", cut + "</LG", 23},
-                 {"behind the end tag's name", cut + "</LGP", 23},
-                 {"in an attribute-only element", "<LNK A='TSK1' B='v'>", 34}});
+  expect_faults(
+      {{"behind <", "<", lmx::ELMX_NOT_WELL_FORMED},
+       {"in the root's name", "<LN", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind the root's name", "<LNK", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind a blank", "<LNK ", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"behind an attribute's name", "<LNK A", lmx::ELMX_UNEXPECTED_EOM},
+       {"behind a name and a blank", "<LNK A ", lmx::ELMX_UNEXPECTED_EOM},
+       {"behind =", "<LNK A=", lmx::ELMX_NOT_WELL_FORMED},
+       {"in a value", "<LNK A='TS", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind an attribute", "<LNK A='TSK1'", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"behind an attribute and a blank", "<LNK A='TSK1' ", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"behind the slash", "<LNK A='TSK1' B='v'/", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind the root's tag", cut, lmx::ELMX_UNEXPECTED_EOM},
+       {"behind a child", cut + good + " ", lmx::ELMX_UNEXPECTED_EOM},
+       {"behind a child's <", cut + "<", lmx::ELMX_NOT_WELL_FORMED},
+       {"in a child's name", cut + "<LN", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind a child's name and a blank", cut + "<LNK ", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"behind a child's attribute's name", cut + "<LNK A", lmx::ELMX_UNEXPECTED_EOM},
+       {"behind a child's =", cut + "<LNK A=", lmx::ELMX_NOT_WELL_FORMED},
+       {"in a child's value", cut + "<LNK A='", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind a child's attribute", cut + "<LNK A='TSK1'", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"behind a second child's attribute", cut + good + "<LNK A='TSK1'", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"in an unknown child", cut + "<Foo><Bar/>", lmx::ELMX_BADLY_FORMED},
+       {"in an unknown child's name", cut + "<Foo", lmx::ELMX_NOT_WELL_FORMED},
+       {"in an unknown child's child's name", cut + "<Foo><Ba", lmx::ELMX_BADLY_FORMED},
+       {"in a comment", cut + "<!-- x", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"in a comment before the root", "<!-- x -", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"in an instruction", cut + "<?p x", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"in an instruction before the root", "<?p x", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+       {"behind </", cut + "</", lmx::ELMX_BAD_END_OF_ELEMENT},
+       {"in the end tag's name", cut + "</LG", lmx::ELMX_NOT_WELL_FORMED},
+       {"behind the end tag's name", cut + "</LGP", lmx::ELMX_NOT_WELL_FORMED},
+       {"in an attribute-only element", "<LNK A='TSK1' B='v'>", lmx::ELMX_UNEXPECTED_EOM}});
 }
 
 TEST(Truncation, OfADocumentAtAnyByteIsAFailure) {
@@ -903,53 +916,61 @@ void expect_lines(std::vector<Line> const& rows) {
 }
 
 TEST(Lines, AreWhereTheReaderStands) {
-  expect_lines({{"a name at its line's end", "<LGP\n  A='LGP1'/>\n", 25, 3, 2},
-                {"an empty line more", "<LGP\n\nA='LGP1'/>\n", 25, 4, 3},
-                {"a child's name at its line's end",
-                 "<ISO11783LinkList" + attributes + ">\n  <LGP\n    A='LGP1' B='9'/>\n</ISO11783LinkList>\n",
-                 38, 4, 3},
-                {"attributes on lines of their own",
-                 "<AFE A='ABCDEFGH.XML'\n     B='1'\n     D='12a'\n     C=''/>\n", 35, 4, 4},
-                {"an unknown sibling's name", "<LGP A='LGP1' B='1'>\n<Foo\n/>\n<LNK A='x' B='v'/>\n</LGP>\n",
-                 20, 5, 4},
-                {"three names deep",
-                 "<ISO11783LinkList\n" + attributes.substr(0, attributes.find(" Data")) +
-                     "\nDataTransferOrigin='1'>\n<LGP\nA='LGP1' B='1'>\n<LNK\nA='TSK1'\nB='v' "
-                     "C='more than thirty-two characters on'/>\n</LGP>\n</ISO11783LinkList>\n",
-                 19, 11, 8},
-                {"another end tag", "<LGP A='LGP1' B='1'>\n</LGX>\n", 10, 2, 2},
-                {"cut off", "<LGP A='LGP1' B='1'>\n\n", 34, 3, 3},
-                {"line ends behind an attribute", "<LGP A='LGP1'\n\n\n/>\n", 25, 4, 4},
-                {"a line end in a value", "<LNK B='a\nb'\nC='x' A='CTR'/>\n", 20, 3, 3},
-                {"an attribute's name at its line's end", "<LGP A\n='LGP1'/>", 25, 3, 2},
-                {"a line end behind =", "<LGP A=\n'LGP1' B=1/>", 23, 2, 2},
-                {"comment and instruction",
-                 "<LGP A='LGP1' B='1'>\n<!-- a\nb -->\n<?p q\nr?>\n<LNK A='x'/>\n</LGP>\n", 20, 6, 6},
-                {"an unknown root", "\n\n<Foo/>\n\n", 34, 5, 5},
-                {"cut in a value", "<LGP A='LGP1' B='1", 23, 1, 1},
-                {"cut behind an attribute", "<LGP A='LGP1' B='1'\n", 31, 2, 2},
-                {"an empty file", "", 34, 1, 1},
-                {"a wrong first byte", "hello\n" + good, 6, 1, 1},
-                {"an end tag first", "</x>\n", 31, 1, 1}});
+  expect_lines(
+      {{"a name at its line's end", "<LGP\n  A='LGP1'/>\n", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 3, 2},
+       {"an empty line more", "<LGP\n\nA='LGP1'/>\n", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 4, 3},
+       {"a child's name at its line's end",
+        "<ISO11783LinkList" + attributes + ">\n  <LGP\n    A='LGP1' B='9'/>\n</ISO11783LinkList>\n",
+        lmx::ELMX_VALUE_NOT_ENUMERATED, 4, 3},
+       {"attributes on lines of their own", "<AFE A='ABCDEFGH.XML'\n     B='1'\n     D='12a'\n     C=''/>\n",
+        lmx::ELMX_VALUE_BAD_FORMAT, 4, 4},
+       {"an unknown sibling's name", "<LGP A='LGP1' B='1'>\n<Foo\n/>\n<LNK A='x' B='v'/>\n</LGP>\n",
+        lmx::ELMX_LENGTH_TOO_SHORT, 5, 4},
+       {"three names deep",
+        "<ISO11783LinkList\n" + attributes.substr(0, attributes.find(" Data")) +
+            "\nDataTransferOrigin='1'>\n<LGP\nA='LGP1' B='1'>\n<LNK\nA='TSK1'\nB='v' "
+            "C='more than thirty-two characters on'/>\n</LGP>\n</ISO11783LinkList>\n",
+        lmx::ELMX_LENGTH_TOO_LONG, 11, 8},
+       {"another end tag", "<LGP A='LGP1' B='1'>\n</LGX>\n", lmx::ELMX_BAD_END_OF_ELEMENT, 2, 2},
+       {"cut off", "<LGP A='LGP1' B='1'>\n\n", lmx::ELMX_UNEXPECTED_EOM, 3, 3},
+       {"line ends behind an attribute", "<LGP A='LGP1'\n\n\n/>\n", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 4,
+        4},
+       {"a line end in a value", "<LNK B='a\nb'\nC='x' A='CTR'/>\n", lmx::ELMX_LENGTH_TOO_SHORT, 3, 3},
+       {"an attribute's name at its line's end", "<LGP A\n='LGP1'/>", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING,
+        3, 2},
+       {"a line end behind =", "<LGP A=\n'LGP1' B=1/>", lmx::ELMX_NOT_WELL_FORMED, 2, 2},
+       {"comment and instruction", "<LGP A='LGP1' B='1'>\n<!-- a\nb -->\n<?p q\nr?>\n<LNK A='x'/>\n</LGP>\n",
+        lmx::ELMX_LENGTH_TOO_SHORT, 6, 6},
+       {"an unknown root", "\n\n<Foo/>\n\n", lmx::ELMX_UNEXPECTED_EOM, 5, 5},
+       {"cut in a value", "<LGP A='LGP1' B='1", lmx::ELMX_NOT_WELL_FORMED, 1, 1},
+       {"cut behind an attribute", "<LGP A='LGP1' B='1'\n", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, 2, 2},
+       {"an empty file", "", lmx::ELMX_UNEXPECTED_EOM, 1, 1},
+       {"a wrong first byte", "hello\n" + good, lmx::ELMX_BAD_CHAR_ENCODING, 1, 1},
+       {"an end tag first", "</x>\n", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT, 1, 1}});
 }
 
 TEST(Lines, OfTasksAreWhereTheReaderStands) {
   expect_lines(
-      {{"a task's name", "<TSK\n  A='TSK1'/>\n", 25, 3, 2},
-       {"an empty line more", "<TSK\n\nA='TSK1'/>\n", 25, 4, 3},
-       {"a time's type", "<TSK A='TSK1' G='1'>\n  <TIM\n    A='2024-01-01T00:00:00' D='3'/>\n</TSK>\n", 38, 4,
-        3},
-       {"a field's area", "<PFD A='PFD1'\n     C='North'\n     D='12a'\n     E='CTR1'/>\n", 35, 4, 4},
-       {"behind an unknown sibling", "<TSK A='TSK1' G='1'>\n<Foo\n/>\n<TIM A='x' D='1'/>\n</TSK>\n", 35, 5,
-        4},
+      {{"a task's name", "<TSK\n  A='TSK1'/>\n", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 3, 2},
+       {"an empty line more", "<TSK\n\nA='TSK1'/>\n", lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 4, 3},
+       {"a time's type", "<TSK A='TSK1' G='1'>\n  <TIM\n    A='2024-01-01T00:00:00' D='3'/>\n</TSK>\n",
+        lmx::ELMX_VALUE_NOT_ENUMERATED, 4, 3},
+       {"a field's area", "<PFD A='PFD1'\n     C='North'\n     D='12a'\n     E='CTR1'/>\n",
+        lmx::ELMX_VALUE_BAD_FORMAT, 4, 4},
+       {"behind an unknown sibling", "<TSK A='TSK1' G='1'>\n<Foo\n/>\n<TIM A='x' D='1'/>\n</TSK>\n",
+        lmx::ELMX_VALUE_BAD_FORMAT, 5, 4},
        {"three levels deep",
-        "<TSK\nA='TSK1'\nG='1'>\n<TZN\nA='1'>\n<PDV\nA='0001'\nB='1x'/>\n</TZN>\n</TSK>\n", 35, 11, 8},
-       {"another end tag", "<TSK A='TSK1' G='1'>\n</TSX>\n", 10, 2, 2},
-       {"a customer's identifier", "<TSK A='TSK1'\nG='1' B='a\nb' C='CTR'/>\n", 20, 3, 3},
+        "<TSK\nA='TSK1'\nG='1'>\n<TZN\nA='1'>\n<PDV\nA='0001'\nB='1x'/>\n</TZN>\n</TSK>\n",
+        lmx::ELMX_VALUE_BAD_FORMAT, 11, 8},
+       {"another end tag", "<TSK A='TSK1' G='1'>\n</TSX>\n", lmx::ELMX_BAD_END_OF_ELEMENT, 2, 2},
+       {"a customer's identifier", "<TSK A='TSK1'\nG='1' B='a\nb' C='CTR'/>\n", lmx::ELMX_LENGTH_TOO_SHORT, 3,
+        3},
        {"behind comment and instruction",
-        "<TSK A='TSK1' G='1'>\n<!-- a\nb -->\n<?p q\nr?>\n<TIM A='x'/>\n</TSK>\n", 35, 6, 6},
-       {"an empty legend", "<CLD A='CLD1'>\n\n</CLD>", 32, 3, 3},
-       {"a legend without a range", "<CLD A='CLD1'>\n<Foo/>\n</CLD>", 21, 3, 3}});
+        "<TSK A='TSK1' G='1'>\n<!-- a\nb -->\n<?p q\nr?>\n<TIM A='x'/>\n</TSK>\n", lmx::ELMX_VALUE_BAD_FORMAT,
+        6, 6},
+       {"an empty legend", "<CLD A='CLD1'>\n\n</CLD>", lmx::ELMX_UNEXPECTED_EMPTY_ELEMENT, 3, 3},
+       {"a legend without a range", "<CLD A='CLD1'>\n<Foo/>\n</CLD>", lmx::ELMX_MANDATORY_ELEMENT_MISSING, 3,
+        3}});
 }
 
 const std::string header_rest =
@@ -959,11 +980,11 @@ const std::string header_rest =
 TEST(Lines, OfAHeaderAreTrueWithAnAttributeBesideItsName) {
   expect_lines(
       {{"its name alone on a line",
-        "<?xml version='1.0' encoding='UTF-8'?>\n<ISO11783_TaskData\n    VersionMajor='4'" + header_rest, 25,
-        9, 8},
+        "<?xml version='1.0' encoding='UTF-8'?>\n<ISO11783_TaskData\n    VersionMajor='4'" + header_rest,
+        lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 9, 8},
        {"its first attribute beside its name",
-        "<?xml version='1.0' encoding='UTF-8'?>\n<ISO11783_TaskData VersionMajor='4'" + header_rest, 25, 7,
-        7}});
+        "<?xml version='1.0' encoding='UTF-8'?>\n<ISO11783_TaskData VersionMajor='4'" + header_rest,
+        lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 7, 7}});
 }
 
 }  // namespace

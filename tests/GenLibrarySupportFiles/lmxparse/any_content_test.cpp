@@ -80,9 +80,9 @@ TEST(UrValue, TellsWhatWentWrong) {
   };
   const Row rows[] = {{"<a>x<b/></a>", "x<b/>", 0},
                       {"<a/>", "", 0},
-                      {"<a>x</b>", "", 10},
-                      {"<a>x", "", 29},
-                      {"<a / x>", "", 11}};
+                      {"<a>x</b>", "", lmx::ELMX_BAD_END_OF_ELEMENT},
+                      {"<a>x", "", lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE},
+                      {"<a / x>", "", lmx::ELMX_BAD_END_OF_START_TAG}};
   for (Row const& row : rows) {
     AtFirstElement at(row.document);
     std::string value;
@@ -335,7 +335,7 @@ TEST(Transcoders, ThatNobodyKnowsAreFatal) {
   lmx::c_xml_local scope;
   std::string element;
   EXPECT_EQ(lmx::EXE_ERROR, xml.get_element_name(&scope, &element));
-  EXPECT_EQ(6, error.last_code());
+  EXPECT_EQ(lmx::ELMX_BAD_CHAR_ENCODING, error.last_code());
 }
 
 }  // namespace

@@ -453,7 +453,8 @@ TEST(CaptureError, TellsTheFatalCodeInPlaceOfTheEndItCaused) {
        lmx::ELMX_ENCODING_MISMATCH},
       {"fatal 6", "text", lmx::ELMX_UNEXPECTED_EOM, lmx::ELMX_BAD_CHAR_ENCODING},
       {"fatal 23", "<a b=c/>", lmx::ELMX_UNEXPECTED_EOM, lmx::ELMX_NOT_WELL_FORMED},
-      {"only 34 is replaced", "text", lmx::ELMX_BAD_END_OF_ELEMENT, lmx::ELMX_BAD_END_OF_ELEMENT},
+      {"only the end of the input is replaced", "text", lmx::ELMX_BAD_END_OF_ELEMENT,
+       lmx::ELMX_BAD_END_OF_ELEMENT},
       {"an error is not fatal", "<1/>", lmx::ELMX_UNEXPECTED_EOM, lmx::ELMX_UNEXPECTED_EOM},
       {"a warning is not fatal", "<!-- --->", lmx::ELMX_UNEXPECTED_EOM, lmx::ELMX_UNEXPECTED_EOM},
   };
@@ -485,7 +486,7 @@ TEST(ReportError, ReturnsWhatTheHandlerSaysAndRecordsFirst) {
 }
 
 TEST(ReportError, AsksTheHandlerWithTheCodeThatWasRecorded) {
-  MemoryRead read("text");  // fatal 6
+  MemoryRead read("text");  // no encoding begins so
   TolerantReader reader(read);
   elmx_error ignored = lmx::ELMX_OK;
   reader.get_element_event(&ignored, &reader.m_name);

@@ -25,6 +25,7 @@
 #include "GenLibrarySupportFiles/lmxtypes/c_decimal.h"
 #include "GenLibrarySupportFiles/lmxtypes/conversions.h"
 #include "GenLibrarySupportFiles/lmxtypes/date_time.h"
+#include "support/code_name.h"
 
 namespace {
 
@@ -1070,12 +1071,11 @@ class Writer : public c_xml_writer {
  public:
   using c_xml_writer::c_xml_writer;
   elmx_error on_error(elmx_error code, string const& item) override {
-    log.push_back("on_error " + std::to_string(code) + " " + item);
+    log.push_back("on_error " + code_name(code) + " " + item);
     return is_tolerant ? lmx::ELMX_OK : c_xml_writer::on_error(code, item);
   }
   elmx_error handle_error(elmx_error code, string const& item, char const* file, int line) override {
-    log.push_back("handle_error " + std::to_string(code) + " " + item + " " + file + ":" +
-                  std::to_string(line));
+    log.push_back("handle_error " + code_name(code) + " " + item + " " + file + ":" + std::to_string(line));
     return c_xml_writer::handle_error(code, item, file, line);
   }
   strings log;
@@ -1090,9 +1090,9 @@ TEST(Error, CutsTheDocumentOffWhereItIs) {
   EXPECT_EQ(lmx::ELMX_BAD_CHOICE, with_bad_choice.marshal(writer));
   EXPECT_EQ("<A B=\"1\">\n\t<C>\n\t\t<D/>\n", out.str());
   EXPECT_EQ(2, writer.depth()) << "two elements wait for their end";
-  EXPECT_EQ(
-      (strings{"handle_error 7 {anonymous compositor} the file:7", "on_error 7 {anonymous compositor}"}),
-      writer.log);
+  EXPECT_EQ((strings{"handle_error BAD_CHOICE {anonymous compositor} the file:7",
+                     "on_error BAD_CHOICE {anonymous compositor}"}),
+            writer.log);
   EXPECT_EQ(
       "Error: Inappropriate choice option selected\n"
       "Item: {anonymous compositor}\n"

@@ -8,6 +8,7 @@
 
 #include "GenLibrarySupportFiles/lmxparse.h"
 #include "isoxmllib/isoxmllib.h"
+#include "support/code_name.h"
 #include "support/document.h"
 #include "support/memory_read.h"
 
@@ -41,7 +42,7 @@ class Log : public lmx::c_error {
  private:
   void report(lmx::elmx_error_type type, lmx::elmx_error code, char const*, int,
               char const* message) override {
-    text += (type == lmx::EET_FATAL ? "fatal " : "") + std::to_string(code) + ' ' + message + '\n';
+    text += (type == lmx::EET_FATAL ? "fatal " : "") + code_name(code) + ' ' + message + '\n';
   }
 };
 
@@ -136,27 +137,37 @@ TEST(Entities, GetTheirCodes) {
   const std::string pair = "<!ENTITY a \"&b;\"><!ENTITY b \"&a;\">";
   const CodeCase rows[] = {
       {"markup in content is read", with_subset("<!ENTITY z '<TZN A=\"1\"/>'>", task("", "&z;")), 0},
-      {"naming itself, in an attribute", with_subset(self, task("&a;")), 28},
-      {"naming itself, between tags", with_subset(self, task("", "&a;")), 9},
-      {"naming itself, after text", with_subset(self, task("", "x&a;")), 10},
-      {"naming itself, in text", with_subset(self, task("", "<P917_comment>&a;</P917_comment>")), 29},
-      {"naming itself, in an unknown element", with_subset(self, task("", "<Foo>&a;</Foo>")), 5},
-      {"naming each other, in an attribute", with_subset(pair, task("&a;")), 28},
-      {"naming each other, between tags", with_subset(pair, task("", "&b;")), 9},
-      {"naming itself, in a namespace", with_subset(self, "<TSK xmlns:p=\"&a;\" A=\"TSK1\" G=\"1\"/>"), 9},
+      {"naming itself, in an attribute", with_subset(self, task("&a;")),
+       lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE},
+      {"naming itself, between tags", with_subset(self, task("", "&a;")), lmx::ELMX_BAD_DTD},
+      {"naming itself, after text", with_subset(self, task("", "x&a;")), lmx::ELMX_BAD_END_OF_ELEMENT},
+      {"naming itself, in text", with_subset(self, task("", "<P917_comment>&a;</P917_comment>")),
+       lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE},
+      {"naming itself, in an unknown element", with_subset(self, task("", "<Foo>&a;</Foo>")),
+       lmx::ELMX_BADLY_FORMED},
+      {"naming each other, in an attribute", with_subset(pair, task("&a;")),
+       lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE},
+      {"naming each other, between tags", with_subset(pair, task("", "&b;")), lmx::ELMX_BAD_DTD},
+      {"naming itself, in a namespace", with_subset(self, "<TSK xmlns:p=\"&a;\" A=\"TSK1\" G=\"1\"/>"),
+       lmx::ELMX_BAD_DTD},
       {"an undeclared name in a namespace", "<TSK xmlns:p=\"a&b;c\" A=\"TSK1\" G=\"1\"/>", 0},
-      {"naming itself without a semicolon", with_subset("<!ENTITY a '&a'>", task("", "&a; ")), 9},
-      {"a parameter entity naming itself", with_subset("<!ENTITY % a \"&#37;a;\"> %a;", task("")), 9},
-      {"the same without a semicolon", with_subset("<!ENTITY % a \"&#37;a\"> %a;", task("")), 9},
-      {"a parameter entity with text", with_subset("<!ENTITY % p 'x'>%p;", task("")), 9},
-      {"a bad character in the subset", with_subset("x", task("")), 9},
-      {"no end after the subset", "<!DOCTYPE x []x>" + task(""), 9},
+      {"naming itself without a semicolon", with_subset("<!ENTITY a '&a'>", task("", "&a; ")),
+       lmx::ELMX_BAD_DTD},
+      {"a parameter entity naming itself", with_subset("<!ENTITY % a \"&#37;a;\"> %a;", task("")),
+       lmx::ELMX_BAD_DTD},
+      {"the same without a semicolon", with_subset("<!ENTITY % a \"&#37;a\"> %a;", task("")),
+       lmx::ELMX_BAD_DTD},
+      {"a parameter entity with text", with_subset("<!ENTITY % p 'x'>%p;", task("")), lmx::ELMX_BAD_DTD},
+      {"a bad character in the subset", with_subset("x", task("")), lmx::ELMX_BAD_DTD},
+      {"no end after the subset", "<!DOCTYPE x []x>" + task(""), lmx::ELMX_BAD_DTD},
       {"redeclared while it is read",
        with_subset("<!ENTITY % a \"&#60;!ENTITY &#37; a 'z'&#62; \"> %a;", task("")), 0},
-      {"an end in a quoted identifier", "<!DOCTYPE x SYSTEM \"a>b\">" + task(""), 31},
-      {"a short instruction swallows", with_subset("<?pi?><!ENTITY a 'x'><?q ?>", task("&a;")), 28},
-      {"cut off in the subset", "<!DOCTYPE x [<!ENTITY a 'x'>", 9},
-      {"cut off in a declaration", "<!DOCTYPE x [<!ENTITY a 'x'", 31},
+      {"an end in a quoted identifier", "<!DOCTYPE x SYSTEM \"a>b\">" + task(""),
+       lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
+      {"a short instruction swallows", with_subset("<?pi?><!ENTITY a 'x'><?q ?>", task("&a;")),
+       lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE},
+      {"cut off in the subset", "<!DOCTYPE x [<!ENTITY a 'x'>", lmx::ELMX_BAD_DTD},
+      {"cut off in a declaration", "<!DOCTYPE x [<!ENTITY a 'x'", lmx::ELMX_UNEXPECTED_COMPLEX_ELEMENT},
   };
   for (CodeCase const& row : rows) EXPECT_EQ(row.code, read_document(row.document).code) << row.caption;
 }
@@ -164,12 +175,15 @@ TEST(Entities, GetTheirCodes) {
 TEST(Entities, ThatNameThemselvesCountOneFatalError) {
   const std::string self = "<!ENTITY a \"&a;\">";
   const CodeCase rows[] = {
-      {"in an attribute", with_subset(self, task("&a;")), 28},
-      {"between tags", with_subset(self, task("", "&a;")), 9},
-      {"between tags, its text first", with_subset("<!ENTITY a \"x&a;\">", task("", "&a;")), 10},
-      {"in text", with_subset(self, task("", "<P917_comment>&a;</P917_comment>")), 29},
+      {"in an attribute", with_subset(self, task("&a;")), lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE},
+      {"between tags", with_subset(self, task("", "&a;")), lmx::ELMX_BAD_DTD},
+      {"between tags, its text first", with_subset("<!ENTITY a \"x&a;\">", task("", "&a;")),
+       lmx::ELMX_BAD_END_OF_ELEMENT},
+      {"in text", with_subset(self, task("", "<P917_comment>&a;</P917_comment>")),
+       lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE},
       {"in text, its own first",
-       with_subset("<!ENTITY a \"x&a;\">", task("", "<P917_comment>&a;</P917_comment>")), 29},
+       with_subset("<!ENTITY a \"x&a;\">", task("", "<P917_comment>&a;</P917_comment>")),
+       lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE},
   };
   for (CodeCase const& row : rows) {
     SCOPED_TRACE(row.caption);
@@ -178,15 +192,15 @@ TEST(Entities, ThatNameThemselvesCountOneFatalError) {
     Root root;
     EXPECT_EQ(row.code, root.unmarshal(reader));
     EXPECT_EQ(1u, reader.error_log().fatal_count());
-    EXPECT_EQ(9, reader.error_log().last_code());
+    EXPECT_EQ(lmx::ELMX_BAD_DTD, reader.error_log().last_code());
   }
 }
 
 TEST(Entities, LinesCountRealInputAlone) {
   const Reading reading = read_document("<!DOCTYPE x [\n<!ENTITY\n a \"1\">\n]>\n<TSK A=\"TSK1\"/>\n");
-  EXPECT_EQ((Reading{25, 6, "TSK"}), reading);
+  EXPECT_EQ((Reading{lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 6, "TSK"}), reading);
   const Reading lone_cr = read_document("<!DOCTYPE x [\r<!ENTITY\r a \"1\">\r]>\r<TSK A=\"TSK1\"/>\r");
-  EXPECT_EQ((Reading{25, 5, "TSK"}), lone_cr);
+  EXPECT_EQ((Reading{lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, 5, "TSK"}), lone_cr);
   EXPECT_EQ(1,
             read_document(with_subset("<!ENTITY e '\n\n'>", "<TSK A=\"TSK1\" G=\"1\">&e;&e;</TSK>")).line - 2)
       << "the two line ends of the declaration count, not those of the text";
@@ -208,7 +222,7 @@ TEST(Entities, ThatNameThemselvesAreReportedInOneWayWhereverTheyStand) {
         Row{"not the first in an attribute", deeper, "<x a='&a;'/>", "y&c;"},
         Row{"not the first in text", deeper, "<x>&a;</x>", "y&c;"},
         Row{"in the subset", "<!ENTITY % a '&#37;a;'> %a;", "<x/>", "%a;"}}) {
-    EXPECT_EQ("fatal 9 Recursive entity definition for: " + std::string(row.value) + "\n",
+    EXPECT_EQ("fatal BAD_DTD Recursive entity definition for: " + std::string(row.value) + "\n",
               log_of(with_subset(row.subset, row.document)))
         << row.caption;
   }
@@ -249,7 +263,8 @@ TEST(EntityLimits, OfNestingInValues) {
   const std::size_t limit = lmx::limits::nested_entities_in_values;
   EXPECT_EQ(0, read_document(with_subset(chain(limit - 1), task("&e0;"))).code);
   EXPECT_EQ(0, read_document(with_subset(chain(limit), task("&e0;"))).code);
-  EXPECT_EQ(28, read_document(with_subset(chain(limit + 1), task("&e0;"))).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE,
+            read_document(with_subset(chain(limit + 1), task("&e0;"))).code);
 }
 
 TEST(EntityLimits, OfNestingInInput) {
@@ -257,7 +272,8 @@ TEST(EntityLimits, OfNestingInInput) {
   const auto comment = [](std::string const& text) { return "<P917_comment>" + text + "</P917_comment>"; };
   EXPECT_EQ(0, read_document(with_subset(chain(limit - 1), comment("&e0;"))).code);
   EXPECT_EQ(0, read_document(with_subset(chain(limit), comment("&e0;"))).code);
-  EXPECT_EQ(29, read_document(with_subset(chain(limit + 1), comment("&e0;"))).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE,
+            read_document(with_subset(chain(limit + 1), comment("&e0;"))).code);
 }
 
 // `count` references in text to one entity of `size` bytes.
@@ -276,7 +292,7 @@ TEST(EntityLimits, OfExpansion) {
   const std::size_t count = static_cast<std::size_t>(lmx::limits::free_expansion / cost);
   EXPECT_EQ(0, read_document(expansion(size, count - 1)).code);
   EXPECT_EQ(0, read_document(expansion(size, count)).code);
-  EXPECT_EQ(29, read_document(expansion(size, count + 1)).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE, read_document(expansion(size, count + 1)).code);
 }
 
 TEST(EntityLimits, OfExpansionInValues) {
@@ -322,7 +338,7 @@ TEST(EntityLimits, LetALargeDocumentExpandInProportion) {
   // 200 000 bytes of document may cost 20 million.
   const std::string padding = "<!--" + std::string(200000, ' ') + "-->";
   EXPECT_EQ(0, read_document(padding + expansion(1000, 15000)).code);
-  EXPECT_EQ(29, read_document(padding + expansion(1000, 40000)).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE, read_document(padding + expansion(1000, 40000)).code);
 }
 
 TEST(EntityLimits, StopTheBillionLaughs) {
@@ -333,10 +349,11 @@ TEST(EntityLimits, StopTheBillionLaughs) {
     for (int k = 0; k != 10; ++k) subset += last + " ";
     subset += "'>";
   }
-  EXPECT_EQ(28, read_document(with_subset(subset, task("&l19;"))).code);
-  EXPECT_EQ(29, read_document(with_subset(subset, "<P917_comment>&l19;</P917_comment>")).code);
-  EXPECT_EQ(10, read_document(with_subset(subset, task("", "&l19;"))).code);
-  EXPECT_EQ(5, read_document(with_subset(subset, task("", "<Foo>&l19;</Foo>"))).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, read_document(with_subset(subset, task("&l19;"))).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE,
+            read_document(with_subset(subset, "<P917_comment>&l19;</P917_comment>")).code);
+  EXPECT_EQ(lmx::ELMX_BAD_END_OF_ELEMENT, read_document(with_subset(subset, task("", "&l19;"))).code);
+  EXPECT_EQ(lmx::ELMX_BADLY_FORMED, read_document(with_subset(subset, task("", "<Foo>&l19;</Foo>"))).code);
 }
 
 TEST(EntityLimits, StopEmptyEntitiesToo) {
@@ -347,7 +364,8 @@ TEST(EntityLimits, StopEmptyEntitiesToo) {
     for (int k = 0; k != 10; ++k) subset += last;
     subset += "'>";
   }
-  EXPECT_EQ(29, read_document(with_subset(subset, "<P917_comment>&l8;</P917_comment>")).code);
+  EXPECT_EQ(lmx::ELMX_UNABLE_TO_READ_ELEMENT_VALUE,
+            read_document(with_subset(subset, "<P917_comment>&l8;</P917_comment>")).code);
 }
 
 TEST(EntityLimits, AHundredThousandEntitiesAreFound) {

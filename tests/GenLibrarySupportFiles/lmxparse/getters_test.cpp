@@ -234,7 +234,7 @@ struct FirstBytes {
   lmx::elxp_char_encoding encoding;
   const char* reports;
 };
-const char unrecognised[] = "fatal 6 Unrecognised character encoding\n";
+const char unrecognised[] = "fatal BAD_CHAR_ENCODING Unrecognised character encoding\n";
 class FirstBytesOfADocument : public testing::TestWithParam<FirstBytes> {};
 TEST_P(FirstBytesOfADocument, DecideTheEncoding) {
   const auto& row = GetParam();
@@ -372,8 +372,8 @@ struct EncodingName {
   lmx::elxp_char_encoding encoding;
   const char* reports;
 };
-const char mismatch[] = "fatal 15 Mis-match between specfied encoding and byte format\n";
-const char unknown_name[] = "fatal 6 Unknown character encoding specified\n";
+const char mismatch[] = "fatal ENCODING_MISMATCH Mis-match between specfied encoding and byte format\n";
+const char unknown_name[] = "fatal BAD_CHAR_ENCODING Unknown character encoding specified\n";
 class EncodingNames : public testing::TestWithParam<EncodingName> {};
 TEST_P(EncodingNames, AreJudgedAgainstUtf8Bytes) {
   const auto& row = GetParam();
@@ -866,7 +866,7 @@ TEST(SpecifiedString, UsesUpTheFirstDifference) {
 }
 
 TEST(Comment, EndsAtTwoHyphensOrMoreAndAngle) {
-  const char warning[] = "warning 8 End of comment not Well-Formed\n";
+  const char warning[] = "warning BAD_COMMENT End of comment not Well-Formed\n";
   expect_scans({{"plain", " a -->r", true, "r", ""},
                 {"empty", "-->r", true, "r", ""},
                 {"three hyphens", " a --->r", true, "r", warning},
@@ -932,25 +932,25 @@ TEST(StartTagEnd, IsFoundBehindQuotes) {
     int is_empty;  // -1: not stored
     const char *rest, *reports;
   };
-  const char illegal[] = "error 12 Illegal character(s) after / at end of tag - x\n";
-  const Row rows[] = {
-      {"at once", ">r", true, 0, "r", ""},
-      {"empty tag", "/>r", true, 1, "r", ""},
-      {"behind attributes", " a='1' b=\"2\">r", true, 0, "r", ""},
-      {"angle in quotes", " a='>' b=\">\"/>r", true, 1, "r", ""},
-      {"the other quote inside", " a=\"'>\" b='\">'>r", true, 0, "r", ""},
-      {"slash in quotes", " a='/'>r", true, 0, "r", ""},
-      {"blanks behind the slash", "/ \t\n\v\f>r", true, 1, "r", ""},
-      {"slash at the end", "/", true, 1, "", ""},
-      {"slash and blanks at the end", "/  ", true, 1, "", ""},
-      {"a character behind the slash", "/ x>r", false, 1, "r", illegal},
-      {"two, reported once", "/x y>r", false, 1, "r", illegal},
-      {"quotes do not count behind the slash", "/x'>r", false, 1, "r", illegal},
-      {"a character, then the end", "/x", false, 1, "", illegal},
-      {"a second slash", "//>r", false, 1, "r", "error 12 Illegal character(s) after / at end of tag - /\n"},
-      {"no end", " a='1' ", false, -1, "", ""},
-      {"no closing quote", " a='1>", false, -1, "", ""},
-      {"no input", "", false, -1, "", ""}};
+  const char illegal[] = "error BAD_END_TAG Illegal character(s) after / at end of tag - x\n";
+  const Row rows[] = {{"at once", ">r", true, 0, "r", ""},
+                      {"empty tag", "/>r", true, 1, "r", ""},
+                      {"behind attributes", " a='1' b=\"2\">r", true, 0, "r", ""},
+                      {"angle in quotes", " a='>' b=\">\"/>r", true, 1, "r", ""},
+                      {"the other quote inside", " a=\"'>\" b='\">'>r", true, 0, "r", ""},
+                      {"slash in quotes", " a='/'>r", true, 0, "r", ""},
+                      {"blanks behind the slash", "/ \t\n\v\f>r", true, 1, "r", ""},
+                      {"slash at the end", "/", true, 1, "", ""},
+                      {"slash and blanks at the end", "/  ", true, 1, "", ""},
+                      {"a character behind the slash", "/ x>r", false, 1, "r", illegal},
+                      {"two, reported once", "/x y>r", false, 1, "r", illegal},
+                      {"quotes do not count behind the slash", "/x'>r", false, 1, "r", illegal},
+                      {"a character, then the end", "/x", false, 1, "", illegal},
+                      {"a second slash", "//>r", false, 1, "r",
+                       "error BAD_END_TAG Illegal character(s) after / at end of tag - /\n"},
+                      {"no end", " a='1' ", false, -1, "", ""},
+                      {"no closing quote", " a='1>", false, -1, "", ""},
+                      {"no input", "", false, -1, "", ""}};
   for (auto const& row : rows) {
     SCOPED_TRACE(row.caption);
     with_getter_inside(row.text, [&](lmx::c_get_for_xml& getter, RecordingError& log) {
@@ -968,7 +968,7 @@ TEST(StartTagEnd, IsFoundBehindQuotes) {
 }
 
 TEST(XmlDeclaration, IsReadFromBehindItsName) {
-  const char no_version[] = "error 13 Version not present in XML Decl\n";
+  const char no_version[] = "error BAD_XML_DECL Version not present in XML Decl\n";
   const std::vector<Scan> rows = {
       {"version 1.0", "version=\"1.0\"?>r", true, "r", ""},
       {"version 1.1", "version='1.1'?>r", true, "r", ""},
@@ -988,9 +988,10 @@ TEST(XmlDeclaration, IsReadFromBehindItsName) {
       {"version without =", "version '1.0'?>", false, "", no_version},
       {"nothing at all", "?>r", false, "", no_version},
       {"cut in the version", "version='1.", false, "", no_version},
-      {"version 2.0", "version='2.0'?>", false, "", "error 14 XML version 2.0 not understood\n"},
-      {"empty version", "version=''?>", false, "", "error 14 XML version  not understood\n"},
-      {"blanks in the version", "version=' 1.0'?>", false, "", "error 14 XML version  1.0 not understood\n"},
+      {"version 2.0", "version='2.0'?>", false, "", "error BAD_XML_VERSION XML version 2.0 not understood\n"},
+      {"empty version", "version=''?>", false, "", "error BAD_XML_VERSION XML version  not understood\n"},
+      {"blanks in the version", "version=' 1.0'?>", false, "",
+       "error BAD_XML_VERSION XML version  1.0 not understood\n"},
       {"encoding misspelt", "version='1.0' encodinh='UTF-8'?>", false, "", ""},
       {"encoding without a quote", "version='1.0' encoding=UTF-8?>", false, "", ""},
       {"encoding without =", "version='1.0' encoding 'UTF-8'?>", false, "", ""},

@@ -130,7 +130,8 @@ TEST(Collection, TakesAnElementWhateverItStandsIn) {
   Reading<AttachedFile> top(attached("AAAAAAAA.XML"));
   EXPECT_EQ(std::vector<AttachedFile*>{&top.top}, top.reader.getAttachedFileContainer());
 
-  Reading<ExternalFileReference> misnamed("<Foo A='CTR00001' B='1'/>", tolerate({16}));
+  Reading<ExternalFileReference> misnamed("<Foo A='CTR00001' B='1'/>",
+                                          tolerate({lmx::ELMX_ELEMENT_NOT_FOUND}));
   EXPECT_EQ(std::vector<ExternalFileReference*>{&misnamed.top},
             misnamed.reader.getExternalFileReferenceContainer());
 }
@@ -146,14 +147,14 @@ TEST(Collection, LacksAFailedElementAndHasItsSiblings) {
   const std::string bytes =
       document(attached("AAAAAAAA.XML") + attached("BBBBBBBB.XML", "9") + attached("CCCCCCCC.XML"));
   Reading<> reading(bytes);
-  EXPECT_EQ(38, reading.error);
+  EXPECT_EQ(lmx::ELMX_VALUE_NOT_ENUMERATED, reading.error);
   EXPECT_EQ(std::vector<std::string>{"AAAAAAAA.XML"}, names(reading.reader.getAttachedFileContainer()));
 
   Reading<> at_its_end(document(attached("AAAAAAAA.XML") + "<AFE A='BBBBBBBB.XML' B='1' C='' D='1'>x</AFE>"));
-  EXPECT_EQ(10, at_its_end.error);
+  EXPECT_EQ(lmx::ELMX_BAD_END_OF_ELEMENT, at_its_end.error);
   EXPECT_EQ(std::vector<std::string>{"AAAAAAAA.XML"}, names(at_its_end.reader.getAttachedFileContainer()));
 
-  Reading<> tolerated(bytes, tolerate({38}));
+  Reading<> tolerated(bytes, tolerate({lmx::ELMX_VALUE_NOT_ENUMERATED}));
   EXPECT_EQ(0, tolerated.error);
   EXPECT_EQ((std::vector<std::string>{"AAAAAAAA.XML", "BBBBBBBB.XML", "CCCCCCCC.XML"}),
             names(tolerated.reader.getAttachedFileContainer()));
@@ -163,15 +164,15 @@ TEST(Collection, TakesAnElementWithChildrenOnceItHasEnded) {
   const std::string good = "<TSK A='TSK1' G='1'><TZN A='1'/></TSK>";
   const std::string bad = "<TSK A='TSK2' G='1'><TZN A='1'/><TZN A='255'/></TSK>";
   Reading<> reading(document(good + bad));
-  EXPECT_EQ(36, reading.error);
+  EXPECT_EQ(lmx::ELMX_VALUE_EXCEEDS_MAX, reading.error);
   ASSERT_EQ(1u, reading.reader.getTaskContainer().size());
   EXPECT_EQ("TSK1", reading.reader.getTaskContainer()[0]->GetId());
 
   Reading<> cut(header + good + "<TSK A='TSK2' G='1'><TZN A='1'/>");
-  EXPECT_EQ(34, cut.error);
+  EXPECT_EQ(lmx::ELMX_UNEXPECTED_EOM, cut.error);
   EXPECT_EQ(1u, cut.reader.getTaskContainer().size());
 
-  Reading<> tolerated(document(bad + good), tolerate({36}));
+  Reading<> tolerated(document(bad + good), tolerate({lmx::ELMX_VALUE_EXCEEDS_MAX}));
   EXPECT_EQ(0, tolerated.error);
   ASSERT_EQ(2u, tolerated.reader.getTaskContainer().size());
   EXPECT_EQ("TSK2", tolerated.reader.getTaskContainer()[0]->GetId());
@@ -209,7 +210,7 @@ TEST(Collection, BeginsAnewWithEachDocumentOfAReader) {
     EXPECT_NE(nullptr, reader.getP917Metadata());
   }
   Root none;
-  EXPECT_EQ(34, none.unmarshal(reader)) << "nothing more in the file";
+  EXPECT_EQ(lmx::ELMX_UNEXPECTED_EOM, none.unmarshal(reader)) << "nothing more in the file";
   EXPECT_EQ(std::vector<std::size_t>(11), sizes(reader));
   EXPECT_EQ("1", reader.getP917Metadata()->GetVersion()) << "which nothing frees";
 }
@@ -229,7 +230,7 @@ TEST(Metadata, IsTheLastThatWasCompleted) {
   ASSERT_EQ(0, two.error);
   EXPECT_EQ("2", two.reader.getP917Metadata()->GetVersion());
   Reading<> failed(document(metadata("1") + "<P917_Metadata/>"));
-  EXPECT_EQ(25, failed.error);
+  EXPECT_EQ(lmx::ELMX_REQUIRED_ATTRIBUTES_MISSING, failed.error);
   EXPECT_EQ("1", failed.reader.getP917Metadata()->GetVersion());
 }
 
@@ -284,7 +285,8 @@ TEST(File, ThatCannotBeOpenedIsNotOpen) {
     EXPECT_EQ(before, open_files());
     EXPECT_EQ(std::vector<std::size_t>(11), sizes(reader));
     Root root;
-    EXPECT_EQ(34, root.unmarshal(reader));  // reads like an empty file, for callers that do not ask
+    EXPECT_EQ(lmx::ELMX_UNEXPECTED_EOM,
+              root.unmarshal(reader));  // reads like an empty file, for callers that do not ask
   }
   EXPECT_EQ(before, open_files());
 }
@@ -306,7 +308,7 @@ TEST(File, ThatIsADirectoryReadsAsEmpty) {
   lmx::xmlReader reader(directory.path().c_str());
   EXPECT_TRUE(reader.isOpen());
   Root root;
-  EXPECT_EQ(34, root.unmarshal(reader));
+  EXPECT_EQ(lmx::ELMX_UNEXPECTED_EOM, root.unmarshal(reader));
   EXPECT_EQ(1, reader.line());
 }
 
