@@ -46,9 +46,11 @@ void c_enumerated_namespaces::clear() {
 
 namespace detail {
 
-std::string const& namespace_bindings::place::prefix() const { return scope->m_ids.entries()[index].first; }
+std::string const& namespace_bindings::declaration::prefix() const {
+  return scope->m_ids.entries()[index].first;
+}
 
-int const& namespace_bindings::place::id() const { return scope->m_ids.entries()[index].second; }
+int const& namespace_bindings::declaration::id() const { return scope->m_ids.entries()[index].second; }
 
 int const* namespace_bindings::find(std::string const& prefix) const {
   auto const found = m_chains.find(hash_of_name(prefix));
@@ -60,7 +62,7 @@ int const* namespace_bindings::find(std::string const& prefix) const {
 }
 
 void namespace_bindings::bind(c_xml_local const& scope) {
-  const place last{&scope, scope.m_ids.size() - 1};
+  const declaration last{&scope, scope.m_ids.size() - 1};
   const std::size_t hash = hash_of_name(last.prefix());
   m_order.push_back(hash);
   m_chains[hash].push_back(last);

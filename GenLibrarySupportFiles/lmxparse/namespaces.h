@@ -109,14 +109,14 @@ class namespace_bindings {
 
  private:
   /// A declaration: the entry of a scope.
-  struct place {
+  struct declaration {
     c_xml_local const* scope;
     std::size_t index;
 
     std::string const& prefix() const;
     int const& id() const;
   };
-  using chain = std::vector<place>;  // of one hash, the innermost last
+  using chain = std::vector<declaration>;  // of one hash, the innermost last
 
   std::unordered_map<std::size_t, chain> m_chains;
   chain m_defaults;                  // those of the empty prefix
