@@ -463,7 +463,7 @@ void begin_element(lmx::c_xml_writer& writer, char const* name);
 
 /// Writes an element under the tag `name`. An error in its children leaves it without an end tag.
 template <class X>
-lmx::elmx_error write_element(X const& element, lmx::c_xml_writer& writer, char const* name) {
+inline lmx::elmx_error write_element(X const& element, lmx::c_xml_writer& writer, char const* name) {
   lmx::c_xml_writer::gathering const gathered(writer);
   lmx::c_xml_writer_local const scope(writer);
   begin_element(writer, name);
